@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+
+namespace generator {
+
+/// How the cursor moves from one letter of a word to the next; rows count downwards, columns rightwards.
+struct Step {
+    int row;
+    int column;
+};
+
+inline constexpr int DirectionCount = 8;
+
+/// The steps of directions 1..DirectionCount; index 0 is the direction of no word.
+inline constexpr std::array<Step, DirectionCount + 1> Directions{{
+    {0, 0},
+    {+1, 0},  // downwards
+    {-1, 0},  // upwards
+    {0, +1},  // left to right
+    {0, -1},  // right to left
+    {+1, +1}, // down and to the right
+    {+1, -1}, // down and to the left
+    {-1, +1}, // up and to the right
+    {-1, -1}, // up and to the left
+}};
+
+} // namespace generator

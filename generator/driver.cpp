@@ -1,0 +1,89 @@
+#include "generator/workspace.h"
+
+namespace generator {
+
+namespace {
+
+constexpr int MissesBeforeRestart = 50;
+constexpr int PassesPerSize = 6;
+
+} // namespace
+
+void PuzzleWorkspace::LoadPuzzleArray()
+{
+    SetPuzzleSize();
+    Arranged = Arrangement::Searched;
+    int passes = 1;
+    while (!PlaceAllWords()) {
+        ClearPuzzleArray();
+        if (passes < PassesPerSize) {
+            ++passes;
+        } else if (PuzzleSize < MaxPuzzleSize) {
+            ++PuzzleSize;
+            passes = 1;
+        } else {
+            ArrangeDensely();
+            break;
+        }
+    }
+    FillPuzzle();
+}
+
+/// One pass through all word slots, the empty ones beyond the end of the list included: they cost an attempt
+/// and write nothing. False as soon as a word has missed too often.
+bool PuzzleWorkspace::PlaceAllWords()
+{
+    int missCount = 0;
+    for (WordIndex = 1; WordIndex <= wordlist::MaxWords; ++WordIndex)
+        if (!PlaceWord(missCount))
+            return false;
+    return true;
+}
+
+/// Attempts at one word until a pseudo pass meets no clash. The attempt after the last allowed miss is made
+/// but not used. A word that fills all its slots leaves the misses standing for the words after it.
+bool PuzzleWorkspace::PlaceWord(int& missCount)
+{
+    for (;; ++missCount) {
+        TakeWord(WordIndex);
+        InsertionPointAndDirection();
+        CheckForClash();
+        if (missCount == MissesBeforeRestart)
+            return false;
+        if (PseudoFits)
+            break;
+    }
+    WriteWord();
+    if (LetterIndex <= wordlist::MaxWordLength)
+        missCount = 0;
+    return true;
+}
+
+void PuzzleWorkspace::TakeWord(int word)
+{
+    CurrentWord = word;
+    DetermineWordLength();
+}
+
+/// Sends the pseudo pass along CurrentWord from the cursor.
+void PuzzleWorkspace::CheckForClash()
+{
+    PseudoWord = CurrentWord;
+    PseudoRow = CurrentRow;
+    PseudoColumn = CurrentColumn;
+    PseudoLoadPuzzleArray();
+}
+
+void PuzzleWorkspace::WriteWord()
+{
+    bool first = true;
+    WalkWord(CurrentWord, LetterIndex, [&](char letter) {
+        if (!first)
+            CurrentDirection();
+        first = false;
+        PuzzleArray(CurrentRow, CurrentColumn) = letter;
+        return true;
+    });
+}
+
+} // namespace generator

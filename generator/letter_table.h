@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace generator {
+
+inline constexpr char Empty = '\0'; ///< an empty slot or cell
+inline constexpr char Blank = ' ';  ///< a character of a word that takes no cell
+
+/// A table of letters with rows 0..LastRow and columns 0..LastColumn, all Empty at first.
+template <int LastRow, int LastColumn>
+class LetterTable {
+public:
+    char& operator()(int row, int column) { return Letters.at(Index(row, column)); }
+    char operator()(int row, int column) const { return Letters.at(Index(row, column)); }
+
+    /// Empties rows 1..rows by columns 1..columns and nothing else.
+    void Clear(int rows = LastRow, int columns = LastColumn)
+    {
+        for (int row = 1; row <= rows; ++row)
+            for (int column = 1; column <= columns; ++column)
+                (*this)(row, column) = Empty;
+    }
+
+    bool operator==(const LetterTable&) const = default;
+
+private:
+    static constexpr std::size_t Index(int row, int column)
+    {
+        return static_cast<std::size_t>(row * (LastColumn + 1) + column);
+    }
+
+    std::array<char, (LastRow + 1) * (LastColumn + 1)> Letters{};
+};
+
+} // namespace generator

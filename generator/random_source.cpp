@@ -1,0 +1,46 @@
+#include "generator/random_source.h"
+
+#include <chrono>
+#include <utility>
+
+namespace generator {
+
+namespace {
+
+constexpr std::uint64_t Increment = 0x9E3779B97F4A7C15U; // 2^64 over the golden ratio, odd
+
+std::uint64_t Mix(std::uint64_t bits)
+{
+    bits = (bits ^ (bits >> 30U)) * 0xBF58476D1CE4E5B9U;
+    bits = (bits ^ (bits >> 27U)) * 0x94D049BB133111EBU;
+    return bits ^ (bits >> 31U);
+}
+
+} // namespace
+
+RandomSource::RandomSource(Clock clock) : Clock_(std::move(clock)), State_(Mix(Clock_())) {}
+
+void RandomSource::Reseed()
+{
+    State_ = Mix((State_ ^ Clock_()) + Increment);
+}
+
+float RandomSource::Draw()
+{
+    constexpr float Scale = 1.0F / (1U << 24U);
+    State_ += Increment;
+    return static_cast<float>(Mix(State_) >> 40U) * Scale;
+}
+
+int RandomSource::DrawBelow(int count)
+{
+    return static_cast<int>(static_cast<double>(count) *
+                            static_cast<double>(Draw())); // exact: no u rounds up
+}
+
+std::uint64_t RandomSource::SystemClock()
+{
+    return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
+} // namespace generator

@@ -1,0 +1,190 @@
+#include "document/character_set.h"
+#include "document/puzzle_file.h"
+#include "tests/support/puzzles.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <fstream>
+#include <sstream>
+
+using document::Marker;
+
+namespace {
+
+/// A file that takes so many bytes and then breaks, as a full disk does.
+class BreakingFile : public std::streambuf {
+public:
+    explicit BreakingFile(std::size_t room) : Room(room) {}
+    std::string Written;
+
+private:
+    int_type overflow(int_type c) override
+    {
+        if (Written.size() >= Room)
+            return traits_type::eof();
+        Written += traits_type::to_char_type(c);
+        return c;
+    }
+    std::size_t Room;
+};
+
+std::string Bytes(std::u16string_view title, const WordList& words)
+{
+    std::ostringstream out;
+    if (!document::WritePuzzle(out, title, words))
+        return "not written";
+    return out.str();
+}
+
+document::PuzzleFile Read(const std::string& bytes)
+{
+    std::istringstream in(bytes);
+    return document::ReadPuzzle(in);
+}
+
+} // namespace
+
+class DocumentTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void WritesRecords()
+    {
+        QCOMPARE(Bytes(u"Animals", {u"CAT", u"DOG"}),
+                 std::string("\"2.2\"\r\n\"Animals\"\r\n\"CAT\"\r\n\"DOG\"\r\n"));
+        QCOMPARE(Bytes(u"Animals", {u"CAT", u"DOG"}).size(), 32U);
+        QCOMPARE(Bytes(u"", {}), std::string("\"2.2\"\r\n\"\"\r\n"));
+        QCOMPARE(Bytes(u"\u20AC\u00E9\u0416", {}), std::string("\"2.2\"\r\n\"\x80\xE9?\"\r\n"));
+    }
+
+    void ReadsFields_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("marker");
+        QTest::addColumn<QString>("title"); // "-" where there is none
+        QTest::addColumn<QString>("words"); // each followed by '/'
+        const auto row = [](const char* name, const char* bytes, Marker marker, const char* title,
+                            const char* words) {
+            QTest::newRow(name) << QByteArray(bytes) << static_cast<int>(marker) << QString(title)
+                                << QString(words);
+        };
+        row("as written", "\"2.2\"\r\n\"Animals\"\r\n\"CAT\"\r\n\"DOG\"\r\n", Marker::Current, "Animals",
+            "CAT/DOG/");
+        row("older", "\"Glyphgrove2.1\"\r\n\"A\"\r\n\"B\"\r\n", Marker::Older, "A", "B/");
+        row("file order", "\"2.2\"\r\n\"T\"\r\n\"dog\"\r\n\"CAT\"\r\n", Marker::Current, "T", "dog/CAT/");
+        row("nothing", "", Marker::Unreadable, "-", "");
+        row("only a quote", "\"", Marker::Unreadable, "-", "");
+        row("empty line", "\r\n\"2.2\"", Marker::Unknown, "-", "");
+        row("other case", "\"glyphgrove2.1\"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
+        row("blank in the marker", "\"2.2 \"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
+        row("only the marker", "\"2.2\"\r\n", Marker::Current, "-", "");
+        row("comma and blanks in quotes", "\"2.2\"\r\n\" a, b \"\r\n\"C D\"\r\n", Marker::Current, " a, b ",
+            "C D/");
+        row("quote in the title", "\"2.2\"\r\n\"Say \"Hi\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ",
+            "CAT/");
+        row("comma after a quote", "\"2.2\"\r\n\"Say \"Hi, Ho\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ",
+            "Ho\"\"/CAT/");
+        row("empty title", "\"2.2\"\r\n\"\"\r\n\"CAT\"\r\n", Marker::Current, "", "CAT/");
+        row("empty word", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\"\"\r\n\"B\"\r\n", Marker::Current, "T", "A/");
+        row("empty line among words", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\r\n\"B\"\r\n", Marker::Current, "T",
+            "A/");
+        row("commas", "2.2,T,\"A\",B\r\n", Marker::Current, "T", "A/B/");
+        row("unquoted, blanks round it", "2.2\r\n  My title  \r\n A B \r\n", Marker::Current, "My title",
+            "A B/");
+        row("line feeds", "\"2.2\"\n\"T\"\nA\n\"B\"\n", Marker::Current, "T", "A/B/");
+        row("carriage returns", "\"2.2\"\r\"T\"\rA\r\"B\"\r", Marker::Current, "T", "A/B/");
+        row("no last line end", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\nB", Marker::Current, "T", "A/B/");
+        row("torn in a word", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\"B", Marker::Current, "T", "A/");
+        row("torn in the title", "\"2.2\"\r\n\"T", Marker::Current, "-", "");
+    }
+
+    void ReadsFields()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, marker);
+        QFETCH(QString, title);
+        QFETCH(QString, words);
+        const auto file = Read(bytes.toStdString());
+        QCOMPARE(static_cast<int>(file.marker), marker);
+        QCOMPARE(QString::fromStdU16String(file.title.value_or(u"-")), title);
+        QString joined;
+        for (const auto& word : file.words)
+            joined += QString::fromStdU16String(word) + '/';
+        QCOMPARE(joined, words);
+    }
+
+    void BoundsWhatItReads()
+    {
+        QCOMPARE(Read(Bytes(u"T", WordList(120, u"W"))).words.size(), 101U);
+        // A field without end is a failure to read, before it fills the memory.
+        const std::string flood(1'000'000, 'x');
+        QCOMPARE(Read(flood).marker, Marker::Unreadable);
+        QVERIFY(!Read("\"2.2\"\r\n" + flood).title);
+        QCOMPARE(Read("\"2.2\"\r\n\"T\"\r\n\"A\"\r\n" + flood).words.size(), 1U);
+    }
+
+    void EveryCharacterSurvives()
+    {
+        std::u16string all;
+        for (int byte = 0; byte < 256; ++byte)
+            if (byte != '"')
+                all += document::DecodeCharacter(static_cast<char>(byte));
+        QCOMPARE(Read(Bytes(all, {all})).title, all);
+        QCOMPARE(Read(Bytes(all, {all})).words.at(0), all);
+        QCOMPARE(document::DecodeCharacter('\x80'), u'\u20AC');
+        QCOMPARE(document::DecodeCharacter('\x9F'), u'\u0178');
+        for (const char16_t missing : {u'\u0416', u'\u0080', u'\u0100', u'\u4E2D'})
+            QVERIFY(!document::EncodeCharacter(missing));
+        QCOMPARE(document::FilterTitle(u"Caf\u00E9 \u20AC\u4E2D\x81\n\"x\"\t\x7F", true),
+                 std::u16string(u"Caf\u00E9 \u20AC \"x\" "));
+
+        generator::RandomSource random = FixedRandom(11);
+        const auto anyText = [&](int longest) {
+            std::u16string text;
+            for (int length = random.DrawBelow(longest); length >= 0; --length)
+                text += all[static_cast<std::size_t>(random.DrawBelow(255))];
+            return text;
+        };
+        for (int round = 0; round < 10'000; ++round) {
+            WordList words(static_cast<std::size_t>(random.DrawBelow(41)));
+            for (auto& word : words)
+                word = anyText(20);
+            const auto title = anyText(30);
+            const auto file = Read(Bytes(title, words));
+            QVERIFY(file.title == title && file.words == words);
+        }
+    }
+
+    void StopsWhereTheFileBreaks()
+    {
+        const WordList words{u"CAT", u"DOG"};
+        const std::string whole = Bytes(u"Animals", words);
+        for (std::size_t room = 0; room <= whole.size(); ++room) {
+            BreakingFile file(room);
+            std::ostream out(&file);
+            QCOMPARE(document::WritePuzzle(out, u"Animals", words), room == whole.size());
+            QCOMPARE(file.Written, whole.substr(0, room));
+            const auto read = Read(file.Written); // and what is left of it can be opened
+            QVERIFY(read.words.size() <= words.size());
+        }
+    }
+
+    void TouchesRegularFilesOnly()
+    {
+        const QTemporaryDir folder;
+        const std::filesystem::path root = folder.path().toStdU16String();
+        const auto file = root / u"\u00C4pfel & \u4E2D.pux";
+        QVERIFY(document::WritePuzzleFile(file, u"T", WordList{u"LONG WORD"}));
+        QVERIFY(document::WritePuzzleFile(file, u"T", WordList{u"A"})); // emptied first
+        QCOMPARE(document::ReadPuzzleFile(file).words, WordList{u"A"});
+        for (const auto& path : {root, root / "missing" / "x.pux", std::filesystem::path("/dev/null")})
+            QVERIFY(!document::WritePuzzleFile(path, u"T", {}));
+        for (const auto& path :
+             {root, root / "missing.pux", std::filesystem::path("/dev/zero"), std::filesystem::path()})
+            QCOMPARE(document::ReadPuzzleFile(path).marker, Marker::Unreadable);
+    }
+};
+
+QTEST_APPLESS_MAIN(DocumentTest)
+#include "document_test.moc"

@@ -1,0 +1,101 @@
+#include "tests/support/puzzle_finder.h"
+
+#include <algorithm>
+#include <bitset>
+#include <cctype>
+
+namespace {
+
+using Cells = std::bitset<900>;
+constexpr int SearchBudget = 200'000;
+
+bool Within(int position, int size)
+{
+    return position >= 0 && position < size;
+}
+
+/// Every set of cells on which the word can be read.
+std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::string& word)
+{
+    std::string letters;
+    for (const char c : word)
+        if (c != ' ')
+            letters += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    const int size = static_cast<int>(rows.size());
+    const int length = static_cast<int>(word.size());
+    std::vector<Cells> found;
+    for (int start = 0; start < size * size; ++start)
+        for (int way = 0; way < 9; ++way) {
+            const int down = way / 3 - 1;
+            const int right = way % 3 - 1;
+            const int r = start / size;
+            const int c = start % size;
+            if (way == 4 || !Within(r + down * length, size) || !Within(c + right * length, size))
+                continue;
+            Cells cells;
+            std::size_t i = 0;
+            for (; i < letters.size(); ++i) {
+                const auto row = static_cast<std::size_t>(r + down * static_cast<int>(i));
+                const auto column = static_cast<std::size_t>(c + right * static_cast<int>(i));
+                if (rows[row][column] != letters[i])
+                    break;
+                cells.set(row * rows.size() + column);
+            }
+            if (i == letters.size() && std::ranges::find(found, cells) == found.end())
+                found.push_back(cells);
+        }
+    return found;
+}
+
+/// Chooses one place for each word, the most constrained words first.
+class Chooser {
+public:
+    explicit Chooser(std::vector<std::vector<Cells>> places) : Places(std::move(places)) {}
+
+    std::string Fault()
+    {
+        std::ranges::sort(Places, {}, [](const auto& places) { return places.size(); });
+        if (Choose(0))
+            return "";
+        return Budget > 0 ? "two words share more than one cell" : "undecided whether words overlap";
+    }
+
+private:
+    bool Choose(std::size_t word)
+    {
+        if (word == Places.size())
+            return true;
+        for (const Cells& place : Places[word]) {
+            if (--Budget <= 0)
+                return false;
+            if (std::ranges::any_of(Chosen, [&](const Cells& other) { return (place & other).count() > 1; }))
+                continue;
+            Chosen.push_back(place);
+            if (Choose(word + 1))
+                return true;
+            Chosen.pop_back();
+        }
+        return false;
+    }
+
+    std::vector<std::vector<Cells>> Places;
+    std::vector<Cells> Chosen;
+    int Budget = SearchBudget;
+};
+
+} // namespace
+
+std::string FaultOf(const SolvedPuzzle& puzzle)
+{
+    const std::size_t size = puzzle.rows.size();
+    for (const std::string& row : puzzle.rows)
+        if (row.size() != size || !std::ranges::all_of(row, [](char c) { return c >= 'A' && c <= 'Z'; }))
+            return "not a square of capitals";
+    std::vector<std::vector<Cells>> places;
+    for (const std::string& word : puzzle.words) {
+        places.push_back(FindAll(puzzle.rows, word));
+        if (places.back().empty())
+            return "not to be found: " + word;
+    }
+    return Chooser(std::move(places)).Fault();
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "generator/workspace.h"
+#include "tests/support/puzzle_finder.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+using WordList = std::vector<std::u16string>;
+
+/// A random source whose clock stands still: the same puzzle on every platform.
+inline generator::RandomSource FixedRandom(std::uint64_t reading)
+{
+    return generator::RandomSource([reading] { return reading; });
+}
+
+inline std::vector<std::string> GridRows(const generator::PuzzleWorkspace& workspace)
+{
+    std::vector<std::string> rows;
+    for (int row = 1; row <= workspace.PuzzleSize; ++row) {
+        rows.emplace_back();
+        for (int column = 1; column <= workspace.PuzzleSize; ++column)
+            rows.back() += workspace.PuzzleArray(row, column);
+    }
+    return rows;
+}
+
+inline SolvedPuzzle Solved(const generator::PuzzleWorkspace& workspace, const WordList& words)
+{
+    SolvedPuzzle puzzle{GridRows(workspace), {}};
+    for (const auto& word : words)
+        puzzle.words.emplace_back(word.begin(), word.end());
+    return puzzle;
+}
+
+/// `count` words of `length` letters, each drawn from the first `letters` of the alphabet.
+inline WordList RandomWords(generator::RandomSource& random, int count, int length, int letters = 26)
+{
+    WordList words(static_cast<std::size_t>(count));
+    for (auto& word : words)
+        for (int i = 0; i < length; ++i)
+            word += static_cast<char16_t>('A' + random.DrawBelow(letters));
+    return words;
+}
+
+/// A list within the limits in one of the shapes that have their own difficulties: any lengths, blanks inside
+/// and at the end, equal words, one repeated letter, palindromes, few letters, nothing at all.
+inline WordList AnyList(generator::RandomSource& random)
+{
+    const int shape = random.DrawBelow(8);
+    const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
+    WordList words;
+    for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(40); count > 0; --count)
+        words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());
+    for (auto& word : words) {
+        if (shape == 1)
+            word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1, u' ');
+        if (shape == 2)
+            word = words.front();
+        if (shape == 4) {
+            word.resize(std::min<std::size_t>(word.size(), 10));
+            word += std::u16string(word.rbegin(), word.rend());
+        }
+    }
+    return words;
+}

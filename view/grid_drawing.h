@@ -1,0 +1,20 @@
+#pragma once
+
+#include "generator/workspace.h"
+
+#include <vector>
+
+namespace view {
+
+/// A letter of the grid and where it is written.
+struct DrawnLetter {
+    char letter;
+    double x; ///< left edge in twips from the surface's left, not rounded
+    double y; ///< top edge in twips from the surface's top, whole
+};
+
+/// The letters of the grid, row by row, on a square surface of `surfaceWidth` twips: cell (r, c) stands at c
+/// and r times four fifths of the surface's width over the puzzle's size. Empty while there is no grid.
+std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, int surfaceWidth);
+
+} // namespace view

@@ -1,0 +1,75 @@
+#include "wordlist/limits.h"
+
+#include "wordlist/letters.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace wordlist {
+
+namespace {
+
+// A file may hold very long words and a hundred of them: the message must still fit a screen.
+constexpr std::size_t NamedCharacters = 40;
+constexpr std::size_t NamedWords = 15;
+
+std::u16string Number(std::size_t number)
+{
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+std::u16string Named(const std::u16string& word)
+{
+    std::u16string name = word.substr(0, NamedCharacters);
+    std::ranges::replace_if(
+        name, [](char16_t character) { return character < u' '; }, u' ');
+    return u'"' + name + (word.size() > NamedCharacters ? u"…\"" : u"\"");
+}
+
+bool HasLetter(const std::u16string& word)
+{
+    return std::ranges::any_of(word, [](char16_t character) { return GridLetter(character).has_value(); });
+}
+
+/// One paragraph of the message: the demand, then the words that it concerns.
+std::u16string Demand(const std::u16string& demand, std::span<const std::u16string> words)
+{
+    std::u16string text = u"\n\n" + demand + u"\n";
+    for (const std::u16string& word : words.first(std::min(words.size(), NamedWords)))
+        text += (&word == words.data() ? u"" : u", ") + Named(word);
+    if (words.size() > NamedWords)
+        text += u" and " + Number(words.size() - NamedWords) + u" more";
+    return text;
+}
+
+template <class Condition>
+std::vector<std::u16string> Select(std::span<const std::u16string> words, Condition condition)
+{
+    std::vector<std::u16string> selected;
+    std::ranges::copy_if(words, std::back_inserter(selected), condition);
+    return selected;
+}
+
+} // namespace
+
+std::optional<std::u16string> ObstacleToPuzzle(std::span<const std::u16string> words)
+{
+    std::u16string demands;
+    if (words.size() > MaxWords)
+        demands += Demand(u"It holds " + Number(words.size()) + u" words, and a puzzle has room for " +
+                              Number(MaxWords) + u". Please remove " + Number(words.size() - MaxWords) +
+                              u"; these stand after the last that fits:",
+                          words.subspan(MaxWords));
+    const auto tooLong = Select(words, [](const auto& word) { return word.size() > MaxWordLength; });
+    if (!tooLong.empty())
+        demands += Demand(u"Please shorten to " + Number(MaxWordLength) + u" characters:", tooLong);
+    const auto letterless = Select(words, [](const auto& word) { return !HasLetter(word); });
+    if (!letterless.empty())
+        demands += Demand(u"Please remove, or give a letter to hide:", letterless);
+    if (demands.empty())
+        return std::nullopt;
+    return u"This word list cannot become a puzzle yet." + demands;
+}
+
+} // namespace wordlist

@@ -1,0 +1,30 @@
+#include "wordlist/order.h"
+
+#include "wordlist/letters.h"
+
+#include <algorithm>
+
+namespace wordlist {
+
+namespace {
+
+char16_t AlphabetKey(char16_t character)
+{
+    const auto letter = GridLetter(character);
+    return letter ? static_cast<char16_t>(*letter) : character;
+}
+
+} // namespace
+
+bool StandsBefore(std::u16string_view left, std::u16string_view right)
+{
+    return std::ranges::lexicographical_compare(left, right, {}, AlphabetKey, AlphabetKey);
+}
+
+std::size_t InsertPosition(std::span<const std::u16string> words, std::u16string_view word)
+{
+    const auto place = std::ranges::upper_bound(words, word, StandsBefore);
+    return static_cast<std::size_t>(place - words.begin());
+}
+
+} // namespace wordlist
