@@ -1,0 +1,61 @@
+#include "app/frmAbout.h"
+
+#include "app/looks.h"
+#include "app/program.h"
+#include "app/widgets/maker_link.h"
+
+#include <QPushButton>
+
+frmAbout::frmAbout(QWidget* owner) : QDialog(owner)
+{
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(tr("About %1").arg(program::Name));
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
+    setPalette(looks::OnWhite(Qt::black));
+    looks::FixSize(*this, 5745, 2205);
+    BuildMaker();
+    BuildTexts();
+    BuildButton();
+}
+
+void frmAbout::BuildMaker()
+{
+    auto* link = new MakerLink(14.25, this);
+    link->setObjectName(QStringLiteral("lblbytallowick"));
+    looks::Place(*link, 150, 90, 0, 360);
+    link->resize(link->sizeHint().width(), link->height());
+    QLabel* trademark = MakeTrademark(looks::BoldItalic(looks::Serif, 9.75), this);
+    trademark->move(link->geometry().topRight() + QPoint(2, 0));
+}
+
+void frmAbout::BuildTexts()
+{
+    AddText(QStringLiteral("lblDescription"),
+            tr("Glyphgrove is a glyphgrove creator program, with a 40 word per puzzle capability, automatic "
+               "puzzle sizing from 10 X 10 to 30 X 30, automatic aphabetizing and word list save and edit "
+               "features."),
+            495, 1005);
+    AddText(QStringLiteral("lblVersion"), tr("Version %1").arg(program::Version), 1560, 255);
+    AddText(QStringLiteral("lblNotice"), program::NoticeLine, 1830, 255);
+}
+
+void frmAbout::AddText(const QString& name, const QString& text, int y, int height)
+{
+    auto* label = new QLabel(text, this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    looks::Place(*label, 150, y, 5445, height);
+}
+
+void frmAbout::BuildButton()
+{
+    auto* cmdOK = new QPushButton(tr("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    looks::Place(*cmdOK, 4395, 1665, 1200, 390);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QDialog>
+
+/// The About box: the maker, the program in a paragraph, its version. Modal, centred on its owner.
+class frmAbout : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmAbout(QWidget* owner);
+
+private:
+    void BuildMaker();
+    void BuildTexts();
+    void BuildButton();
+    void AddText(const QString& name, const QString& text, int y, int height);
+};

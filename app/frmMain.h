@@ -1,0 +1,111 @@
+#pragma once
+
+#include "app/frmPuzzle.h"
+#include "app/widgets/entry_box.h"
+#include "app/widgets/word_list.h"
+#include "generator/workspace.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+#include <QPushButton>
+
+/// The main window: home of the document and owner of everything the program keeps while it runs. Its title
+/// box and word list hold the document, its fields the document's and the editor's state, its workspace the
+/// puzzle. Each command is a procedure that sets what is to be seen after it.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit frmMain(generator::RandomSource random = generator::RandomSource());
+
+    /// The desktop's session ends: closes the windows. False when the user wants to stay.
+    bool EndSession();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    // Controls, start-up, becoming active, toolbar, maker link (frmMain.cpp).
+    void BuildMenus();
+    QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, void (frmMain::*command)());
+    void BuildToolbar();
+    void BuildTitle();
+    void BuildWordEntry();
+    void BuildCommandButtons();
+    void BuildWordList();
+    void BuildMakerLink();
+    QLabel* AddLabel(const char* name, const QString& text);
+    QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)());
+    void Form_Load();
+    void Form_Activate();
+    void Toolbar1_ButtonClick(int index);
+    void mnuAbout_Click();
+
+    // Words (frmMain_words.cpp).
+    void cmdEnter_Click();
+    void AddWord();
+    bool UserWantsDuplicates(const QString& word);
+    void ConfirmEdit();
+    void lstWordlist_Click();
+    void EditWord();
+    void cmdDelete_Click();
+    bool DeleteSelectedWord();
+    void ShowEditButtons(bool shown);
+    void LeaveEditMode();
+    void ClearTextbox();
+    void WordCounter();
+
+    // The document (frmMain_document.cpp).
+    bool CheckForSave();
+    void ResetAll(bool forNew);
+    void mnuNewPuzzle_Click();
+    void mnuExit_Click();
+    bool Form_QueryUnload();
+    void Form_Unload();
+    void Terminate();
+    void txtTitle_Change();
+    void txtTitle_Click();
+    void txtTitle_LostFocus();
+    void ShowTitleInCaption();
+
+    // Its files (frmMain_files.cpp).
+    void mnuOpen_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void ToolbarSave();
+    bool SaveFile(const QString& fileName);
+    bool LoadFile(const QString& fileName);
+
+    // The puzzle (frmMain_puzzle.cpp).
+    void cmdCreatePuzzle_Click();
+    void FillPuzzleWindow();
+    void DrawToPictureBox();
+    void Print_Puzzle();
+
+    QWidget* Client;
+    QLabel* lblBigTitle = nullptr;
+    EntryBox* txtTitle = nullptr;
+    WordBox* txtNewWords = nullptr;
+    QPushButton* cmdEnter = nullptr;
+    QPushButton* cmdCreatePuzzle = nullptr;
+    QPushButton* cmdEditWord = nullptr;
+    QPushButton* cmdDelete = nullptr;
+    WordList* lstWordlist = nullptr;
+    QLabel* lblWordCount = nullptr;
+    QAction* mnuSave = nullptr;
+    QAction* mnuSaveAs = nullptr;
+    QPointer<frmPuzzle> Puzzle; ///< while a puzzle is shown
+
+    bool Saved = true;      ///< no unsaved changes
+    bool TitleSet = false;  ///< the title box holds a title that a click must not clear
+    QString DocFileName;    ///< the file that Save writes; empty when there is none
+    QString RememberedName; ///< the name that the file dialogs open with
+    QString SelectedWord;   ///< the entry that was selected last
+    bool EditMode = false;  ///< Enter replaces an entry instead of adding one
+    int EditIndex = -1;     ///< that entry's position; -1 when none was selected
+    generator::PuzzleWorkspace Workspace;
+};

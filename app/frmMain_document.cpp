@@ -1,0 +1,115 @@
+#include "app/frmMain.h"
+#include "app/message_boxes.h"
+#include "app/program.h"
+
+#include <QCloseEvent>
+
+/// Offers to save unsaved changes. True when the user cancelled.
+bool frmMain::CheckForSave()
+{
+    if (Saved)
+        return false;
+    switch (message_boxes::AskToSave(this, tr("Do you want to save the changes you made to your Glyphgrove?"),
+                                     tr("Important"))) {
+    case QMessageBox::Yes:
+        if (mnuSave->isEnabled())
+            mnuSave_Click();
+        else
+            mnuSaveAs_Click();
+        return false;
+    case QMessageBox::No:
+        Saved = true;
+        return false;
+    default:
+        return true;
+    }
+}
+
+/// An empty document titled New Puzzle; for New without a file name, for a load with the one it had.
+void frmMain::ResetAll(bool forNew)
+{
+    ClearTextbox();
+    txtTitle->setText(tr("New Puzzle"));
+    lstWordlist->Clear();
+    WordCounter();
+    setWindowTitle(tr("Glyphgrove-New Puzzle"));
+    mnuSave->setEnabled(false);
+    mnuSaveAs->setEnabled(false);
+    Saved = true;
+    if (forNew) {
+        DocFileName.clear();
+        RememberedName.clear();
+    }
+}
+
+void frmMain::mnuNewPuzzle_Click()
+{
+    if (!CheckForSave())
+        ResetAll(true);
+}
+
+void frmMain::mnuExit_Click()
+{
+    Terminate();
+}
+
+/// Closes the windows, the one opened last first. The program ends with the last of them; the main window may
+/// stay open, and the program with it.
+void frmMain::Terminate()
+{
+    if (Puzzle)
+        Puzzle->close();
+    close();
+}
+
+bool frmMain::EndSession()
+{
+    Terminate();
+    return isHidden();
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    const bool mayClose = Form_QueryUnload();
+    event->setAccepted(mayClose);
+    if (mayClose)
+        Form_Unload();
+}
+
+bool frmMain::Form_QueryUnload()
+{
+    return Saved || !CheckForSave();
+}
+
+void frmMain::Form_Unload()
+{
+    Terminate();
+}
+
+void frmMain::txtTitle_Change()
+{
+    lblBigTitle->setText(txtTitle->text());
+}
+
+/// The first click into a box without a title of its own empties it.
+void frmMain::txtTitle_Click()
+{
+    if (txtTitle->text() == tr("New Puzzle") || !TitleSet) {
+        txtTitle->clear();
+        TitleSet = true;
+    }
+    Saved = false;
+}
+
+void frmMain::txtTitle_LostFocus()
+{
+    if (txtTitle->text().isEmpty()) {
+        txtTitle->setText(tr("New Puzzle"));
+        TitleSet = false;
+    }
+}
+
+void frmMain::ShowTitleInCaption()
+{
+    setWindowTitle(program::Name + '-' + txtTitle->text());
+}

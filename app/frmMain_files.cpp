@@ -1,0 +1,101 @@
+#include "app/frmMain.h"
+#include "app/message_boxes.h"
+#include "app/widgets/puzzle_file_dialog.h"
+#include "document/puzzle_file.h"
+
+#include <QFileInfo>
+
+namespace {
+
+const QString PuzzleFilter = QStringLiteral("Glyphgrove Files (*.pux)");
+const QString AllFilter = QStringLiteral("All File (*.*)");
+
+std::filesystem::path PathOf(const QString& fileName)
+{
+    return QFileInfo(fileName).filesystemFilePath();
+}
+
+} // namespace
+
+void frmMain::mnuOpen_Click()
+{
+    if (CheckForSave())
+        return;
+    PuzzleFileDialog dlgFileName(QFileDialog::AcceptOpen, {PuzzleFilter}, RememberedName, this);
+    const QString fileName = dlgFileName.Choose();
+    if (fileName.isEmpty())
+        return;
+    RememberedName = fileName;
+    const bool fileRejected = LoadFile(fileName);
+    DocFileName = fileRejected ? QString() : fileName;
+}
+
+void frmMain::mnuSave_Click()
+{
+    SaveFile(DocFileName);
+}
+
+void frmMain::mnuSaveAs_Click()
+{
+    RememberedName = txtTitle->text();
+    PuzzleFileDialog dlgFileName(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter}, RememberedName, this);
+    const QString fileName = dlgFileName.Choose();
+    if (fileName.isEmpty())
+        return;
+    RememberedName = fileName;
+    if (SaveFile(fileName))
+        DocFileName = fileName;
+}
+
+/// The toolbar's Save button is never disabled: it does what can be done, or says why nothing can.
+void frmMain::ToolbarSave()
+{
+    if (mnuSave->isEnabled())
+        mnuSave_Click();
+    else if (mnuSaveAs->isEnabled())
+        mnuSaveAs_Click();
+    else
+        message_boxes::Tell(this, tr("You must have at least one word to save the puzzle."));
+}
+
+/// Writes the document to `fileName`. False when that failed: the document then still counts as it did.
+bool frmMain::SaveFile(const QString& fileName)
+{
+    if (!document::WritePuzzleFile(PathOf(fileName), txtTitle->text().toStdU16String(), lstWordlist->Words()))
+        return false;
+    Saved = true;
+    ShowTitleInCaption();
+    return true;
+}
+
+/// Replaces the document with what `fileName` holds, as far as it can be read. True when the file was
+/// rejected, being none of ours: the document is then an empty one that cannot be saved.
+bool frmMain::LoadFile(const QString& fileName)
+{
+    ResetAll(false);
+    cmdCreatePuzzle->setEnabled(true);
+    mnuSaveAs->setEnabled(true);
+    mnuSave->setEnabled(true);
+    const document::PuzzleFile file = document::ReadPuzzleFile(PathOf(fileName));
+    if (file.marker == document::Marker::Older)
+        message_boxes::Tell(this,
+                            tr("This is a Glyphgrove 2.1 file. "
+                               "For maximum performance, saving this file will update it to 2.1.1 format."),
+                            tr("Important!"));
+    if (file.marker == document::Marker::Unknown) {
+        message_boxes::Tell(this,
+                            tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
+                            tr("WARNING!"));
+        mnuSave->setEnabled(false);
+        mnuSaveAs->setEnabled(false);
+        return true;
+    }
+    if (file.title)
+        txtTitle->setText(QString::fromStdU16String(*file.title));
+    for (const std::u16string& word : file.words)
+        lstWordlist->Insert(lstWordlist->count(), QString::fromStdU16String(word));
+    ShowTitleInCaption();
+    TitleSet = true;
+    WordCounter();
+    return false;
+}

@@ -1,0 +1,140 @@
+#include "app/frmMain.h"
+#include "app/message_boxes.h"
+#include "wordlist/limits.h"
+#include "wordlist/order.h"
+
+#include <algorithm>
+
+void frmMain::cmdEnter_Click()
+{
+    if (EditMode)
+        ConfirmEdit();
+    else
+        AddWord();
+}
+
+void frmMain::AddWord()
+{
+    const QString word = txtNewWords->text();
+    if (word.isEmpty()) {
+        txtNewWords->setFocus();
+        return;
+    }
+    if (!UserWantsDuplicates(word)) {
+        ClearTextbox();
+        return;
+    }
+    if (lstWordlist->count() >= wordlist::MaxWords) {
+        message_boxes::Tell(this, tr("40 word limit reached!"), tr("Word Limit!"));
+        ClearTextbox();
+        return;
+    }
+    const auto position = wordlist::InsertPosition(lstWordlist->Words(), word.toStdU16String());
+    lstWordlist->Insert(static_cast<int>(position), word);
+    ClearTextbox();
+    cmdCreatePuzzle->setEnabled(true);
+    mnuSaveAs->setEnabled(true);
+    if (!DocFileName.isEmpty())
+        mnuSave->setEnabled(true);
+    WordCounter();
+    Saved = false;
+    ShowEditButtons(false);
+}
+
+/// Asks once for every entry equal to `word`; false as soon as the user says no.
+bool frmMain::UserWantsDuplicates(const QString& word)
+{
+    const auto words = lstWordlist->Words();
+    auto equals = std::ranges::count(words, word.toStdU16String());
+    while (equals-- > 0)
+        if (!message_boxes::Confirm(
+                this, tr("Word already exists in your list! Do you want to put it into your list again?"),
+                tr("Duplicate warning")))
+            return false;
+    return true;
+}
+
+/// Replaces the entry at EditIndex. Where the list no longer has one, the text is added as a new word.
+void frmMain::ConfirmEdit()
+{
+    if (txtNewWords->text().isEmpty())
+        return;
+    const bool gone = EditIndex < 0 || EditIndex >= lstWordlist->count();
+    LeaveEditMode();
+    if (gone) {
+        AddWord();
+        return;
+    }
+    lstWordlist->Remove(EditIndex);
+    lstWordlist->Insert(EditIndex, txtNewWords->text());
+    ClearTextbox();
+    WordCounter();
+    Saved = false;
+    ShowEditButtons(false);
+    cmdCreatePuzzle->setEnabled(true);
+}
+
+void frmMain::lstWordlist_Click()
+{
+    SelectedWord = lstWordlist->item(lstWordlist->SelectedPosition())->text();
+    ShowEditButtons(true);
+    ClearTextbox();
+}
+
+void frmMain::EditWord()
+{
+    txtNewWords->setText(SelectedWord);
+    EditMode = true;
+    EditIndex = lstWordlist->SelectedPosition();
+    txtNewWords->setFocus();
+    cmdEnter->setText(tr("Enter (EditMode)"));
+    cmdCreatePuzzle->setEnabled(false);
+    ShowEditButtons(false);
+}
+
+void frmMain::cmdDelete_Click()
+{
+    if (DeleteSelectedWord())
+        ShowEditButtons(false);
+}
+
+/// Removes the selected entry and ends edit mode; with nothing selected it only empties the word box.
+bool frmMain::DeleteSelectedWord()
+{
+    const int position = lstWordlist->SelectedPosition();
+    if (position >= 0) {
+        lstWordlist->Remove(position);
+        LeaveEditMode();
+        WordCounter();
+        Saved = false;
+    }
+    ClearTextbox();
+    return position >= 0;
+}
+
+void frmMain::ShowEditButtons(bool shown)
+{
+    cmdEditWord->setVisible(shown);
+    cmdDelete->setVisible(shown);
+}
+
+void frmMain::LeaveEditMode()
+{
+    EditMode = false;
+    cmdEnter->setText(tr("Enter"));
+}
+
+void frmMain::ClearTextbox()
+{
+    txtNewWords->clear();
+    txtNewWords->setFocus();
+}
+
+void frmMain::WordCounter()
+{
+    const int count = lstWordlist->count();
+    QPalette palette = lblWordCount->palette();
+    palette.setColor(QPalette::WindowText, count < wordlist::MaxWords ? Qt::black : Qt::red);
+    lblWordCount->setPalette(palette);
+    lblWordCount->setText(QString::number(count));
+}

@@ -1,0 +1,120 @@
+#include "app/frmPuzzle.h"
+
+#include "app/looks.h"
+#include "app/program.h"
+#include "app/toolbars.h"
+
+#include <QCloseEvent>
+
+namespace {
+
+constexpr int ToolbarHeight = 360;
+constexpr int TitleWidth = 4335;
+constexpr int TitleHeight = 375;
+constexpr int WordHeight = 240;
+constexpr int WordsPerColumn = 20;
+
+} // namespace
+
+frmPuzzle::frmPuzzle()
+    : pctPuzzle(new PuzzleSurface(this)), lblBigTitle(new QLabel(this)), lblWords(),
+      cmdPrint(new QPushButton(tr("Print Puzzle"), this))
+{
+    setObjectName(QStringLiteral("frmPuzzle"));
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false); // the main window, hidden meanwhile, comes back
+    setPalette(looks::LightYellow());
+    BuildSurface();
+    BuildTitle();
+    BuildWordLabels();
+    BuildToolbar();
+    looks::FixSize(*this, 12900, 8295);
+    looks::Centre(*this);
+}
+
+void frmPuzzle::BuildSurface()
+{
+    pctPuzzle->setObjectName(QStringLiteral("pctPuzzle"));
+    looks::Place(*pctPuzzle, 4800, 240, SurfaceWidth, SurfaceWidth);
+}
+
+void frmPuzzle::BuildTitle()
+{
+    lblBigTitle->setObjectName(QStringLiteral("lblBigTitle"));
+    lblBigTitle->setTextFormat(Qt::PlainText);
+    lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 15.75));
+    lblBigTitle->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    lblBigTitle->setWordWrap(true);
+    SetTitle(tr("New Puzzle"));
+}
+
+void frmPuzzle::BuildWordLabels()
+{
+    for (int i = 0; i < WordPlaces; ++i) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QStringLiteral("lblWords%1").arg(i));
+        label->setTextFormat(Qt::PlainText);
+        label->setFont(looks::Font(looks::Monospaced, 8.25));
+        lblWords.at(static_cast<std::size_t>(i)) = label;
+        SetWord(i, QString());
+    }
+}
+
+/// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
+void frmPuzzle::BuildToolbar()
+{
+    QToolBar* toolbar = MakeToolbar(
+        QStringLiteral("PuzzleToolbar"),
+        {{"Print", "print", QT_TR_NOOP("Print Puzzle")}, {"Back", "back", QT_TR_NOOP("Go Back")}}, this);
+    looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
+    connect(toolbar, &QToolBar::actionTriggered, this,
+            [this](const QAction* action) { PuzzleToolbar_ButtonClick(ToolbarIndex(*action)); });
+    cmdPrint->setObjectName(QStringLiteral("cmdPrint"));
+    cmdPrint->hide();
+    connect(cmdPrint, &QPushButton::clicked, this, &frmPuzzle::cmdPrint_Click);
+}
+
+/// A title too long for one line of the label flows into a second one, which has room above the words.
+void frmPuzzle::SetTitle(const QString& title)
+{
+    lblBigTitle->setText(title);
+    const bool fits =
+        lblBigTitle->fontMetrics().horizontalAdvance(title) <= looks::ToPixels(*this, TitleWidth);
+    looks::Place(*lblBigTitle, 120, 720, TitleWidth, fits ? TitleHeight : 2 * TitleHeight);
+}
+
+void frmPuzzle::SetWord(int index, const QString& word)
+{
+    QLabel* label = lblWords.at(static_cast<std::size_t>(index));
+    label->setText(word);
+    const int x = index < WordsPerColumn ? 120 : 2520;
+    looks::Place(*label, x, 1560 + WordHeight * (index % WordsPerColumn), 0, WordHeight);
+    label->resize(label->sizeHint().width(), label->height());
+}
+
+void frmPuzzle::PuzzleToolbar_ButtonClick(int index)
+{
+    switch (index) {
+    case 1:
+        cmdPrint_Click();
+        break;
+    case 2:
+        close();
+        break;
+    default:
+        break;
+    }
+}
+
+void frmPuzzle::cmdPrint_Click()
+{
+    emit PrintRequested();
+}
+
+void frmPuzzle::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    emit Unloaded();
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/widgets/puzzle_surface.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+/// The puzzle window: one generated puzzle beside its word list. It holds no data of its own; the main window
+/// fills its labels and draws its grid, and is told what the user wants of it. It is built for one puzzle and
+/// deletes itself when it closes.
+class frmPuzzle : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int WordPlaces = 40;
+    static constexpr int SurfaceWidth = 7815; ///< twips; the surface is square
+
+    frmPuzzle();
+
+    void SetTitle(const QString& title);
+    /// Fills word label `index`, 0..39.
+    void SetWord(int index, const QString& word);
+    PuzzleSurface* pctPuzzle;
+
+signals:
+    void PrintRequested();
+    /// The window closes; the main window takes its place.
+    void Unloaded();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildToolbar();
+    void BuildTitle();
+    void BuildWordLabels();
+    void BuildSurface();
+    void PuzzleToolbar_ButtonClick(int index);
+    void cmdPrint_Click();
+
+    QLabel* lblBigTitle;
+    std::array<QLabel*, WordPlaces> lblWords;
+    QPushButton* cmdPrint;
+};

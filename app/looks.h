@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QFont>
+#include <QPalette>
+#include <QRect>
+
+class QWidget;
+
+/// Measures, fonts and colours that the windows have in common.
+namespace looks {
+
+inline const QString Serif = QStringLiteral("Times New Roman");
+inline const QString Monospaced = QStringLiteral("Courier New");
+
+/// Twips (1/1440 inch) in pixels of `widget`, fractions kept: windows grow with their fonts.
+double ToPixels(const QWidget& widget, double twips);
+
+/// Places `widget` in its parent, all in twips.
+void Place(QWidget& widget, int x, int y, int width, int height);
+
+/// Gives `widget` a fixed size, in twips.
+void FixSize(QWidget& widget, int width, int height);
+
+/// Puts `window` in the middle of its screen.
+void Centre(QWidget& window);
+
+QFont Font(const QString& name, double points);
+QFont BoldItalic(const QString& name, double points);
+
+/// Light yellow with dark text of its own, so that no desktop theme can make it unreadable; boxes and lists
+/// are white.
+QPalette LightYellow();
+/// A white ground with dark text of the given colour.
+QPalette OnWhite(const QColor& text);
+inline const QColor MakerRed(128, 0, 0);
+
+} // namespace looks

@@ -1,0 +1,35 @@
+#include "app/message_boxes.h"
+
+namespace message_boxes {
+
+namespace {
+
+QMessageBox::StandardButton Ask(QWidget* owner, const QString& text, const QString& title,
+                                QMessageBox::StandardButtons buttons, QMessageBox::StandardButton onEscape)
+{
+    QMessageBox box(QMessageBox::NoIcon, title, text, buttons, owner);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok);
+    box.setEscapeButton(onEscape);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+void Tell(QWidget* owner, const QString& text, const QString& title)
+{
+    Ask(owner, text, title, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool Confirm(QWidget* owner, const QString& text, const QString& title)
+{
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+QMessageBox::StandardButton AskToSave(QWidget* owner, const QString& text, const QString& title)
+{
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+               QMessageBox::Cancel);
+}
+
+} // namespace message_boxes

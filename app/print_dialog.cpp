@@ -1,0 +1,32 @@
+#include "app/print_dialog.h"
+
+#include "document/file_name.h"
+
+#include <QDir>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+
+namespace {
+
+QString ProposedPdf(const QString& title)
+{
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QDir folder = documents.exists() ? documents : QDir::home();
+    return folder.filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
+                           QStringLiteral(".pdf"));
+}
+
+} // namespace
+
+bool RunPrintDialog(QPrinter& printer, QWidget& owner)
+{
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+        printer.setOutputFileName(ProposedPdf(printer.docName()));
+    QPrintDialog dialog(&printer, &owner);
+    dialog.setObjectName(QStringLiteral("PrinterDialog"));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
+    return dialog.exec() == QDialog::Accepted;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "document/puzzle_file.h"
+
+#include <QString>
+
+/// What the program says of itself.
+namespace program {
+
+inline const QString Name = QStringLiteral("Glyphgrove");
+inline const QString Version = QString::fromLatin1(document::Version.data(), document::Version.size());
+inline const QString Maker = QStringLiteral("Tallowick");
+inline const QString MakerAddress = QStringLiteral("https://www.tallowick.example/");
+inline const QString NoticeLine = QStringLiteral("Glyphgrove is made by Tallowick.");
+
+} // namespace program

@@ -1,0 +1,45 @@
+#include "app/widgets/puzzle_file_dialog.h"
+
+#include "app/message_boxes.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+bool FolderExists(const QString& path)
+{
+    return QFileInfo(path).absoluteDir().exists();
+}
+
+} // namespace
+
+PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name,
+                                   QWidget* owner)
+    : QFileDialog(owner)
+{
+    setObjectName(QStringLiteral("dlgFileName"));
+    setAcceptMode(mode);
+    setFileMode(QFileDialog::AnyFile);
+    setNameFilters(filters);
+    if (!name.isEmpty())
+        selectFile(name);
+}
+
+QString PuzzleFileDialog::Choose()
+{
+    if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
+        return {};
+    const QString path = selectedFiles().constFirst();
+    return FolderExists(path) ? path : QString();
+}
+
+void PuzzleFileDialog::accept()
+{
+    const QStringList files = selectedFiles();
+    if (!files.isEmpty() && !FolderExists(files.constFirst()))
+        message_boxes::Tell(this,
+                            tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
+    else
+        QFileDialog::accept();
+}

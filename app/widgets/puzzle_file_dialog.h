@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QFileDialog>
+
+/// The desktop's dialog for puzzle files, serving both Open and Save As.
+class PuzzleFileDialog : public QFileDialog {
+    Q_OBJECT
+
+public:
+    /// `name` is the name or path that the dialog shows at first.
+    PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name, QWidget* owner);
+
+    /// Runs the dialog. The chosen path as it was given, or empty when the user cancelled or chose a path in
+    /// a folder that does not exist.
+    QString Choose();
+
+protected:
+    /// A typed path may name a file that does not exist, but not a folder that does not.
+    void accept() override;
+};

@@ -1,0 +1,110 @@
+#include "app/widgets/word_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace {
+
+constexpr int Columns = 4;
+constexpr int Rows = 10;
+
+} // namespace
+
+WordList::WordList(QWidget* parent) : QListWidget(parent)
+{
+    setFlow(QListView::TopToBottom);
+    setWrapping(true);
+    setResizeMode(QListView::Adjust);
+    setUniformItemSizes(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setDragDropMode(QAbstractItemView::NoDragDrop);
+}
+
+std::vector<std::u16string> WordList::Words() const
+{
+    std::vector<std::u16string> words;
+    for (int i = 0; i < count(); ++i)
+        words.push_back(item(i)->text().toStdU16String());
+    return words;
+}
+
+void WordList::Insert(int position, const QString& word)
+{
+    auto* entry = new QListWidgetItem(word);
+    entry->setToolTip(word.toHtmlEscaped()); // a word may be cut short by its column
+    insertItem(position, entry);
+    // Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
+    if (count() > Columns * Rows)
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void WordList::Remove(int position)
+{
+    if (position == SelectedPosition())
+        setCurrentItem(nullptr); // else the view selects a neighbour
+    delete takeItem(position);
+    if (count() <= Columns * Rows)
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void WordList::Clear()
+{
+    clear();
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+int WordList::SelectedPosition() const
+{
+    const auto selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void WordList::resizeEvent(QResizeEvent* event)
+{
+    QListWidget::resizeEvent(event);
+    // A column that fills the height to the last pixel would lose its last row to the next one.
+    setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
+}
+
+void WordList::mousePressEvent(QMouseEvent* event)
+{
+    MousePressing = true;
+    QListWidget::mousePressEvent(event);
+    MousePressing = false;
+    if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr)
+        Choose();
+}
+
+/// With nothing selected the first arrow key selects the entry that has the focus rather than the one after
+/// it.
+void WordList::keyPressEvent(QKeyEvent* event)
+{
+    const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    if (arrow && SelectedPosition() < 0 && currentItem() != nullptr)
+        currentItem()->setSelected(true);
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void WordList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListWidget::selectionChanged(selected, deselected);
+    if (!MousePressing && !selected.isEmpty())
+        Choose();
+}
+
+QItemSelectionModel::SelectionFlags WordList::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* /*event*/) const
+{
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+void WordList::Choose()
+{
+    if (SelectedPosition() >= 0)
+        emit Chosen(SelectedPosition());
+}
