@@ -1,11 +1,10 @@
 #include "app/frmMain.h"
 #include "app/pictures.h"
 #include "app/program.h"
+#include "app/throwaway_settings.h"
 
 #include <QApplication>
 #include <QSessionManager>
-#include <QSettings>
-#include <QTemporaryDir>
 
 int main(int argc, char* argv[])
 {
@@ -13,9 +12,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(program::Name);
     QApplication::setWindowIcon(pictures::OfProgram());
 
-    // The toolkit's file dialog keeps settings of its own; nothing may stay but the user's files.
-    const QTemporaryDir toolkitSettings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, toolkitSettings.path());
+    const ThrowawaySettings settings;
 
     frmMain window;
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,

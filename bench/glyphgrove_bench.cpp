@@ -1,0 +1,104 @@
+#include "app/frmMain.h"
+#include "app/page_printer.h"
+#include "tools/driving.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QPushButton>
+#include <QTemporaryDir>
+
+// How long a puzzle takes to make, to show and to print. The absolute times are this machine's; what to
+// compare are the ratios within one run.
+
+namespace {
+
+std::vector<std::u16string> RandomWords(generator::RandomSource& random, std::int64_t count,
+                                        std::int64_t length)
+{
+    std::vector<std::u16string> words(static_cast<std::size_t>(count));
+    for (auto& word : words)
+        for (std::int64_t i = 0; i < length; ++i)
+            word += static_cast<char16_t>('A' + random.DrawBelow(26));
+    return words;
+}
+
+void MakePuzzle(benchmark::State& state)
+{
+    generator::PuzzleWorkspace workspace;
+    double dense = 0;
+    double lanes = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const auto words = RandomWords(workspace.Random, state.range(0), state.range(1));
+        workspace.Reset();
+        state.ResumeTiming();
+        workspace.LoadWordsArray(words);
+        workspace.LoadPuzzleArray();
+        dense += workspace.Arranged == generator::PuzzleWorkspace::Arrangement::Dense ? 1 : 0;
+        lanes += workspace.Arranged == generator::PuzzleWorkspace::Arrangement::Lanes ? 1 : 0;
+    }
+    state.counters["dense"] = benchmark::Counter(dense, benchmark::Counter::kAvgIterations);
+    state.counters["lanes"] = benchmark::Counter(lanes, benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(MakePuzzle)
+    ->Args({10, 5})
+    ->Args({40, 7})
+    ->Args({40, 12})
+    ->Args({40, 20})
+    ->Unit(benchmark::kMicrosecond);
+
+/// From the click on Create Puzzle to the painted puzzle window.
+void ShowPuzzle(benchmark::State& state)
+{
+    frmMain window;
+    window.show();
+    generator::RandomSource random;
+    auto& box = driving::Find<QLineEdit>(window, "txtNewWords");
+    for (const auto& word : RandomWords(random, state.range(0), state.range(1))) {
+        box.setText(QString::fromStdU16String(word));
+        driving::Find<QPushButton>(window, "cmdEnter").click();
+    }
+    driving::Answers answers; // the offer to save is answered with No at the first round
+    answers.Expect(driving::Press(QMessageBox::No));
+    auto& create = driving::Find<QPushButton>(window, "cmdCreatePuzzle");
+    for (auto _ : state) {
+        create.click();
+        QWidget* puzzle = driving::ShownWindow("frmPuzzle");
+        QApplication::processEvents();
+        puzzle->repaint();
+        state.PauseTiming();
+        puzzle->close();
+        QApplication::processEvents();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(ShowPuzzle)->Args({40, 7})->Args({40, 12})->Unit(benchmark::kMillisecond);
+
+/// From the accepted print dialog to the finished PDF: a grid of 30 x 30 with 40 words.
+void PrintPuzzle(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    generator::PuzzleWorkspace workspace;
+    const auto words = RandomWords(workspace.Random, 40, 12);
+    workspace.LoadWordsArray(words);
+    workspace.LoadPuzzleArray();
+    for (auto _ : state) {
+        PagePaper paper(QStringLiteral("Title"));
+        paper.Printer().setOutputFileName(folder.filePath(QStringLiteral("page.pdf")));
+        if (!view::PrintPage(paper, u"Title", words, workspace))
+            state.SkipWithError("not printed");
+    }
+}
+BENCHMARK(PrintPuzzle)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    driving::PrepareApplication();
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

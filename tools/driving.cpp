@@ -1,0 +1,102 @@
+#include "tools/driving.h"
+
+#include "app/throwaway_settings.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QToolBar>
+
+namespace driving {
+
+namespace {
+
+QString Describe(const QDialog& dialog)
+{
+    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
+        return box->windowTitle() + ": " + box->text();
+    return dialog.objectName();
+}
+
+} // namespace
+
+void PrepareApplication()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QStandardPaths::setTestModeEnabled(true);
+    static const ThrowawaySettings settings;
+}
+
+QWidget* ShownWindow(const QString& name)
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == name && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+QToolButton& ToolButton(const QWidget& window, const QString& toolbar, const QString& key)
+{
+    const auto& bar = Find<QToolBar>(window, toolbar);
+    return *qobject_cast<QToolButton*>(bar.widgetForAction(&Find<QAction>(bar, key)));
+}
+
+Answers::Answers()
+{
+    connect(&Timer, &QTimer::timeout, this, &Answers::Look);
+    Timer.start(0);
+}
+
+void Answers::Look()
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || dialog == Last || !dialog->isVisible())
+        return;
+    Last = dialog;
+    if (Expected.empty()) {
+        Seen += "unexpected " + Describe(*dialog);
+        dialog->reject();
+        return;
+    }
+    Seen += Describe(*dialog);
+    const Answer answer = std::move(Expected.front());
+    Expected.pop_front();
+    answer(*dialog);
+}
+
+Answers::Answer Press(QMessageBox::StandardButton button)
+{
+    return [button](QDialog& dialog) {
+        if (auto* box = qobject_cast<QMessageBox*>(&dialog))
+            box->button(button)->click();
+        else
+            dialog.reject();
+    };
+}
+
+Answers::Answer ChooseFile(const QString& path)
+{
+    return [path](QDialog& dialog) {
+        Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
+        // The dialog takes a path as typed only from its box: its accept is that of the button.
+        QMetaObject::invokeMethod(&dialog, "accept");
+    };
+}
+
+Answers::Answer Dismiss()
+{
+    return [](QDialog& dialog) { dialog.reject(); };
+}
+
+Answers::Answer PrintTo(const QString& path)
+{
+    return [path](QDialog& dialog) {
+        Find<QLineEdit>(dialog, "filename").setText(path);
+        for (QPushButton* button : dialog.findChildren<QPushButton*>())
+            if (button->text().remove('&') == "Print")
+                button->click();
+    };
+}
+
+} // namespace driving
