@@ -53,7 +53,7 @@ QPalette LightYellow()
 
 QPalette OnWhite(const QColor& text)
 {
-    QPalette palette(QColor(Qt::white), QColor(Qt::white));
+    QPalette palette{QColor(Qt::white), QColor(Qt::white)};
     palette.setColor(QPalette::WindowText, text);
     return palette;
 }

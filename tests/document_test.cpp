@@ -29,7 +29,7 @@ private:
     std::size_t Room;
 };
 
-std::string Bytes(std::u16string_view title, const WordList& words)
+std::string Bytes(std::u16string_view title, const Words& words)
 {
     std::ostringstream out;
     if (!document::WritePuzzle(out, title, words))
@@ -116,7 +116,7 @@ private slots:
 
     void BoundsWhatItReads()
     {
-        QCOMPARE(Read(Bytes(u"T", WordList(120, u"W"))).words.size(), 101U);
+        QCOMPARE(Read(Bytes(u"T", Words(120, u"W"))).words.size(), 101U);
         // A field without end is a failure to read, before it fills the memory.
         const std::string flood(1'000'000, 'x');
         QCOMPARE(Read(flood).marker, Marker::Unreadable);
@@ -147,7 +147,7 @@ private slots:
             return text;
         };
         for (int round = 0; round < 10'000; ++round) {
-            WordList words(static_cast<std::size_t>(random.DrawBelow(41)));
+            Words words(static_cast<std::size_t>(random.DrawBelow(41)));
             for (auto& word : words)
                 word = anyText(20);
             const auto title = anyText(30);
@@ -158,7 +158,7 @@ private slots:
 
     void StopsWhereTheFileBreaks()
     {
-        const WordList words{u"CAT", u"DOG"};
+        const Words words{u"CAT", u"DOG"};
         const std::string whole = Bytes(u"Animals", words);
         for (std::size_t room = 0; room <= whole.size(); ++room) {
             BreakingFile file(room);
@@ -175,9 +175,9 @@ private slots:
         const QTemporaryDir folder;
         const std::filesystem::path root = folder.path().toStdU16String();
         const auto file = root / u"\u00C4pfel & \u4E2D.pux";
-        QVERIFY(document::WritePuzzleFile(file, u"T", WordList{u"LONG WORD"}));
-        QVERIFY(document::WritePuzzleFile(file, u"T", WordList{u"A"})); // emptied first
-        QCOMPARE(document::ReadPuzzleFile(file).words, WordList{u"A"});
+        QVERIFY(document::WritePuzzleFile(file, u"T", Words{u"LONG WORD"}));
+        QVERIFY(document::WritePuzzleFile(file, u"T", Words{u"A"})); // emptied first
+        QCOMPARE(document::ReadPuzzleFile(file).words, Words{u"A"});
         for (const auto& path : {root, root / "missing" / "x.pux", std::filesystem::path("/dev/null")})
             QVERIFY(!document::WritePuzzleFile(path, u"T", {}));
         for (const auto& path :

@@ -14,7 +14,7 @@ using generator::RandomSource;
 
 namespace {
 
-PuzzleWorkspace MakePuzzle(const WordList& words, RandomSource random)
+PuzzleWorkspace MakePuzzle(const Words& words, RandomSource random)
 {
     PuzzleWorkspace workspace(std::move(random));
     workspace.LoadWordsArray(words);
@@ -85,12 +85,11 @@ private slots:
         QFETCH(int, length);
         QFETCH(int, rest);
         QFETCH(int, size);
-        WordList list(static_cast<std::size_t>(words),
-                      std::u16string(static_cast<std::size_t>(length), u'A'));
+        Words list(static_cast<std::size_t>(words), std::u16string(static_cast<std::size_t>(length), u'A'));
         if (rest > 0)
             list.emplace_back(static_cast<std::size_t>(rest), u'B');
         PuzzleWorkspace workspace(FixedRandom(1));
-        workspace.LoadWordsArray(WordList(40, u"ABCDEFGHIJKLMNOPQRST")); // must leave no trace
+        workspace.LoadWordsArray(Words(40, u"ABCDEFGHIJKLMNOPQRST")); // must leave no trace
         workspace.ClearWordsArray();
         workspace.LoadWordsArray(list);
         QCOMPARE(workspace.LetterCount, words * length + rest);
@@ -102,7 +101,7 @@ private slots:
     void LoadsWordsAsCapitalsAndBlanks()
     {
         PuzzleWorkspace workspace(FixedRandom(1));
-        WordList words{u"Ice cream", u"\u00C9t\u00E9-1", u"ABCDEFGHIJKLMNOPQRSTUVW"};
+        Words words{u"Ice cream", u"\u00C9t\u00E9-1", u"ABCDEFGHIJKLMNOPQRSTUVW"};
         words.resize(45, u"X");
         workspace.LoadWordsArray(words);
         const auto stored = [&](int word) {
@@ -197,7 +196,7 @@ private slots:
         QFETCH(QString, word);
         QFETCH(bool, fits);
         PuzzleWorkspace workspace(FixedRandom(1));
-        workspace.LoadWordsArray(WordList{word.toStdU16String()});
+        workspace.LoadWordsArray(Words{word.toStdU16String()});
         workspace.PuzzleSize = 10;
         for (int column = 1; column <= 10; ++column)
             if (row[column - 1] != '.')
@@ -285,7 +284,7 @@ private slots:
     /// The same clock and list give the same puzzle everywhere; a change of any rule or draw shows here.
     void PinsTheGrid()
     {
-        const WordList words{u"Acorn", u"Badger", u"Fern", u"Ice cream", u"Oak"};
+        const Words words{u"Acorn", u"Badger", u"Fern", u"Ice cream", u"Oak"};
         QCOMPARE(
             GridRows(MakePuzzle(words, FixedRandom(42))),
             (std::vector<std::string>{"PSQVSPEDWI", "IJAZRAMZCE", "MRKVCRKEZG", "UEFOAVCXNC", "RARLERDFZJ",
@@ -293,7 +292,7 @@ private slots:
         // A list of many misses and restarts that outgrows its first size, with words that fill all their
         // slots.
         RandomSource random = FixedRandom(7);
-        WordList crowded = RandomWords(random, 12, 15);
+        Words crowded = RandomWords(random, 12, 15);
         for (const auto& word : RandomWords(random, 12, 20))
             crowded.push_back(word);
         const PuzzleWorkspace workspace = MakePuzzle(crowded, random);
@@ -307,7 +306,7 @@ private slots:
         const int lists = std::max(qEnvironmentVariableIntValue("GLYPHGROVE_LISTS"), 1500);
         RandomSource random = FixedRandom(99);
         for (int list = 0; list < lists; ++list) {
-            const WordList words = AnyList(random);
+            const Words words = AnyList(random);
             const PuzzleWorkspace workspace = MakePuzzle(words, random);
             const std::string fault = FaultOf(Solved(workspace, words));
             QVERIFY2(fault.empty(), qPrintable(QString("list %1: ").arg(list) + fault.c_str()));
@@ -320,7 +319,7 @@ private slots:
         std::map<PuzzleWorkspace::Arrangement, int> arranged;
         RandomSource random = FixedRandom(5);
         for (const int letters : {26, 26, 2, 1}) {
-            const WordList words = RandomWords(random, 40, 20, letters);
+            const Words words = RandomWords(random, 40, 20, letters);
             const PuzzleWorkspace workspace = MakePuzzle(words, random);
             ++arranged[workspace.Arranged];
             QCOMPARE(FaultOf(Solved(workspace, words)), std::string());
@@ -332,7 +331,7 @@ private slots:
     {
         RandomSource random = FixedRandom(6);
         for (int list = 0; list < 60; ++list) {
-            const WordList words = RandomWords(random, 40, list % 3 == 0 ? 20 : 1 + random.DrawBelow(20));
+            const Words words = RandomWords(random, 40, list % 3 == 0 ? 20 : 1 + random.DrawBelow(20));
             PuzzleWorkspace workspace(random);
             workspace.LoadWordsArray(words);
             workspace.PuzzleSize = generator::MaxPuzzleSize;

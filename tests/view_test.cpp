@@ -178,7 +178,7 @@ private slots:
         Recorder printer;
         printer.Width = width;
         printer.WholePoints = wholePoints;
-        WordList list;
+        Words list;
         for (int i = 0; i < words; ++i)
             list.emplace_back(static_cast<std::size_t>(i % 20 + 1), u'W');
         QVERIFY(view::PrintPage(printer, u"Animals", list, Grid(10)));
@@ -212,7 +212,7 @@ private slots:
 
     void StopsAtTheFirstFailure()
     {
-        const WordList words(11, u"WORD");
+        const Words words(11, u"WORD");
         Recorder whole;
         QVERIFY(view::PrintPage(whole, u"T", words, Grid(10)));
         for (int call = 1; call <= whole.Calls; ++call) {

@@ -80,10 +80,10 @@ private slots:
 
     void InsertsInAlphabeticalOrder()
     {
-        const auto place = [](const WordList& words, std::u16string_view word) {
+        const auto place = [](const Words& words, std::u16string_view word) {
             return static_cast<int>(wordlist::InsertPosition(words, word));
         };
-        const WordList words{u"ant", u"Bee", u"cat", u"Cat", u"ICE AGE", u"ICEBERG", u"\u00C9lan"};
+        const Words words{u"ant", u"Bee", u"cat", u"Cat", u"ICE AGE", u"ICEBERG", u"\u00C9lan"};
         QCOMPARE(place({}, u"cat"), 0);
         QCOMPARE(place(words, u"AAA"), 0);
         QCOMPARE(place(words, u"BEE"), 2);
@@ -94,7 +94,7 @@ private slots:
         QCOMPARE(place({u"cat", u"dog", u"\u00C9lan", u"fox"}, u"elm"), 3);
 
         generator::RandomSource random = FixedRandom(3);
-        WordList grown;
+        Words grown;
         for (const auto& word : RandomWords(random, 300, 3, 4)) {
             const auto position = static_cast<std::ptrdiff_t>(wordlist::InsertPosition(grown, word));
             grown.insert(grown.begin() + position, word);
@@ -110,21 +110,20 @@ private slots:
         using wordlist::ObstacleToPuzzle;
         const std::u16string twenty(20, u'A');
         QVERIFY(!ObstacleToPuzzle({}));
-        QVERIFY(!ObstacleToPuzzle(WordList(40, twenty)));
-        QVERIFY(!ObstacleToPuzzle(WordList{u"\u00DF", u"A 1"}));
-        const auto tells = [](const WordList& words, const QString& text) {
+        QVERIFY(!ObstacleToPuzzle(Words(40, twenty)));
+        QVERIFY(!ObstacleToPuzzle(Words{u"\u00DF", u"A 1"}));
+        const auto tells = [](const Words& words, const QString& text) {
             const auto obstacle = ObstacleToPuzzle(words);
             return obstacle && QString::fromStdU16String(*obstacle).contains(text);
         };
-        QVERIFY(
-            tells(WordList{twenty + u"B", u"CAT"}, "shorten to 20 characters:\n\"AAAAAAAAAAAAAAAAAAAAB\""));
-        QVERIFY(tells(WordList{twenty + u"B", u" 12 "}, "a letter to hide:\n\" 12 \""));
-        WordList many(40, u"CAT");
+        QVERIFY(tells(Words{twenty + u"B", u"CAT"}, "shorten to 20 characters:\n\"AAAAAAAAAAAAAAAAAAAAB\""));
+        QVERIFY(tells(Words{twenty + u"B", u" 12 "}, "a letter to hide:\n\" 12 \""));
+        Words many(40, u"CAT");
         many.insert(many.end(), {u"DOG", u"FOX"});
         QVERIFY(tells(many, "holds 42 words, and a puzzle has room for 40. Please remove 2"));
         QVERIFY(tells(many, "\"DOG\", \"FOX\""));
         // The message fits a screen whatever the file brings.
-        const auto longest = ObstacleToPuzzle(WordList(101, std::u16string(60'000, u'\n')));
+        const auto longest = ObstacleToPuzzle(Words(101, std::u16string(60'000, u'\n')));
         QVERIFY(longest && longest->size() < 4000);
     }
 };

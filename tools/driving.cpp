@@ -51,18 +51,19 @@ Answers::Answers()
 void Answers::Look()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || dialog == Last || !dialog->isVisible())
+    if (dialog == nullptr || Answered.contains(dialog) || !dialog->isVisible())
         return;
-    Last = dialog;
+    Answered.removeAll(nullptr);
+    Answered += dialog;
     if (Expected.empty()) {
         Seen += "unexpected " + Describe(*dialog);
         dialog->reject();
         return;
     }
     Seen += Describe(*dialog);
-    const Answer answer = std::move(Expected.front());
+    // Not from here: an answer may bring up a further box, for which this timer has to go on.
+    QTimer::singleShot(0, dialog, [answer = std::move(Expected.front()), dialog] { answer(*dialog); });
     Expected.pop_front();
-    answer(*dialog);
 }
 
 Answers::Answer Press(QMessageBox::StandardButton button)
@@ -81,6 +82,8 @@ Answers::Answer ChooseFile(const QString& path)
         Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
         // The dialog takes a path as typed only from its box: its accept is that of the button.
         QMetaObject::invokeMethod(&dialog, "accept");
+        if (dialog.isVisible())
+            dialog.reject();
     };
 }
 

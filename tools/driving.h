@@ -59,12 +59,12 @@ private:
 
     QTimer Timer;
     std::deque<Answer> Expected;
-    QPointer<QWidget> Last;
+    QList<QPointer<QDialog>> Answered;
     QStringList Seen;
 };
 
 Answers::Answer Press(QMessageBox::StandardButton button);
-/// Types a path into a file dialog and confirms it.
+/// Types a path into a file dialog and confirms it; cancels a dialog that does not take it.
 Answers::Answer ChooseFile(const QString& path);
 /// Escape.
 Answers::Answer Dismiss();

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-using WordList = std::vector<std::u16string>;
+using Words = std::vector<std::u16string>;
 
 /// A random source whose clock stands still: the same puzzle on every platform.
 inline generator::RandomSource FixedRandom(std::uint64_t reading)
@@ -26,7 +26,7 @@ inline std::vector<std::string> GridRows(const generator::PuzzleWorkspace& works
     return rows;
 }
 
-inline SolvedPuzzle Solved(const generator::PuzzleWorkspace& workspace, const WordList& words)
+inline SolvedPuzzle Solved(const generator::PuzzleWorkspace& workspace, const Words& words)
 {
     SolvedPuzzle puzzle{GridRows(workspace), {}};
     for (const auto& word : words)
@@ -35,9 +35,9 @@ inline SolvedPuzzle Solved(const generator::PuzzleWorkspace& workspace, const Wo
 }
 
 /// `count` words of `length` letters, each drawn from the first `letters` of the alphabet.
-inline WordList RandomWords(generator::RandomSource& random, int count, int length, int letters = 26)
+inline Words RandomWords(generator::RandomSource& random, int count, int length, int letters = 26)
 {
-    WordList words(static_cast<std::size_t>(count));
+    Words words(static_cast<std::size_t>(count));
     for (auto& word : words)
         for (int i = 0; i < length; ++i)
             word += static_cast<char16_t>('A' + random.DrawBelow(letters));
@@ -46,16 +46,17 @@ inline WordList RandomWords(generator::RandomSource& random, int count, int leng
 
 /// A list within the limits in one of the shapes that have their own difficulties: any lengths, blanks inside
 /// and at the end, equal words, one repeated letter, palindromes, few letters, nothing at all.
-inline WordList AnyList(generator::RandomSource& random)
+inline Words AnyList(generator::RandomSource& random)
 {
     const int shape = random.DrawBelow(8);
     const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
-    WordList words;
+    Words words;
     for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(40); count > 0; --count)
         words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());
     for (auto& word : words) {
         if (shape == 1)
-            word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1, u' ');
+            word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1,
+                        u' ');
         if (shape == 2)
             word = words.front();
         if (shape == 4) {

@@ -1,0 +1,136 @@
+#include "tests/support/window_script.h"
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+
+class MainWindowTest : public WindowScript {
+    Q_OBJECT
+
+private slots:
+    void ShowsWhatEachCommandLeaves_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QString>("boxes");
+        const auto row = [](const char* script, const char* state, const char* boxes = "") {
+            QTest::newRow(script) << QString(script) << QString(state) << QString(boxes);
+        };
+        row("leave", "G - NP | NP |  |  | 0");
+        // Words.
+        row("enter", "G - NP | NP |  |  | 0");
+        row("word:dog word:Cat word:ICE_CREAM", "G - NP | NP | Cat,dog,ICE CREAM | AC | 3");
+        row("word:CAT word:cat word:CAT_", "G - NP | NP | CAT,cat,CAT  | AC | 3");
+        row("type:CAT titleenter", "G - NP | NP | CAT | AC | 1");
+        row("word:CAT no word:CAT", "G - NP | NP | CAT | AC | 1", "again?");
+        row("word:CAT escape word:CAT", "G - NP | NP | CAT | AC | 1", "again?");
+        row("word:CAT yes word:CAT yes yes word:CAT", "G - NP | NP | CAT,CAT,CAT | AC | 3",
+            "again? again? again?");
+        row("fill:40 ok word:Z yes ok word:Waa", "G - NP | NP | 40 words | AC | 40!", "limit again? limit");
+        row("fill:40 pick:0 delete", "G - NP | NP | 39 words | AC | 39");
+        // Editing.
+        row("word:CAT word:DOG pick:1", "G - NP | NP | CAT,DOG | ACE | 2");
+        row("word:CAT pick:0 type:X pick:0", "G - NP | NP | CAT | ACE | 1");
+        row("word:CAT word:DOG pick:1 edit", "G - NP | NP | CAT,DOG | AM | 2 | DOG");
+        row("word:BEE word:CAT pick:0 edit wipe word:ZEBRA", "G - NP | NP | ZEBRA,CAT | AC | 2");
+        row("word:CAT word:DOG pick:1 edit pick:0", "G - NP | NP | CAT,DOG | AEM | 2");
+        row("word:CAT word:DOG pick:1 edit pick:0 word:EEL", "G - NP | NP | CAT,EEL | AC | 2");
+        row("word:CAT pick:0 edit wipe enter", "G - NP | NP | CAT | AM | 1");
+        row("word:CAT word:DOG pick:0 edit wipe word:DOG", "G - NP | NP | DOG,DOG | AC | 2");
+        row("word:CAT word:DOG pick:0 edit tool:Delete", "G - NP | NP | DOG | A | 1");
+        row("word:CAT word:DOG pick:0 tool:Delete", "G - NP | NP | DOG | ACE | 1");
+        row("word:CAT word:DOG pick:0 tool:Delete type:x delete", "G - NP | NP | DOG | ACE | 1");
+        row("word:CAT word:DOG pick:0 delete tool:Delete", "G - NP | NP | DOG | AC | 1");
+        row("word:CAT pick:0 delete word:DOG", "G - NP | NP | DOG | AC | 1");
+        row("word:CAT word:DOG pick:0 tool:Delete edit word:X", "G - NP | NP | CATX,DOG | AC | 2");
+        row("word:CAT pick:0 edit no menu:NewPuzzle word:X", "G-NP | NP | X | AC | 1", "save?");
+        // The title.
+        row("title:_s leave menu:NewPuzzle", "G-NP | NP |  |  | 0");
+        row("clicktitle title:Pets leave no menu:NewPuzzle", "G-NP | NP |  |  | 0", "save?");
+        row("clicktitle leave clicktitle", "G - NP |  |  |  | 0");
+        row("clicktitle leave", "G - NP | NP |  |  | 0");
+        row("clicktitle title:Pets clicktitle", "G - NP | Pets |  |  | 0");
+        // Files.
+        row("word:CAT cancel menu:NewPuzzle", "G - NP | NP | CAT | AC | 1", "save?");
+        row("word:CAT no tool:New", "G-NP | NP |  | C | 0", "save?");
+        row("word:CAT file:new.pux menu:SaveAs", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/", "file");
+        row("word:CAT file:new.pux tool:Save word:DOG", "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/",
+            "file");
+        row("word:CAT file:new.pux menu:SaveAs word:DOG menu:Save",
+            "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file");
+        row("word:CAT file:new.pux menu:SaveAs word:DOG file:new.pux yes menu:SaveAs",
+            "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file file replace?");
+        row("word:CAT file:missing/new.pux ok menu:SaveAs", "G - NP | NP | CAT | AC | 1", "file no folder");
+        row("file:good.pux menu:Open", "G-Pets | Pets | DOG,CAT | SAC | 2", "file");
+        row("file:good.pux tool:Open file:new.pux menu:SaveAs word:EEL tool:Save",
+            "G-Pets | Pets | DOG,CAT,EEL | SAC | 3 | new.pux=2.2/Pets/DOG/CAT/EEL/", "file file");
+        row("file:good.pux menu:Open clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2",
+            "file save?");
+        row("file:older.pux ok menu:Open", "G-Old | Old | DOG | SAC | 1", "file older");
+        row("file:bad.pux ok menu:Open", "G-NP | NP |  | C | 0", "file bad");
+        row("file:bad.pux ok menu:Open word:DOG", "G-NP | NP | DOG | AC | 1", "file bad");
+        row("file:new.pux menu:Open", "G-NP | NP |  | SAC | 0", "file");
+        row("file:new.pux menu:Open word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/",
+            "file");
+        row("file:long.pux menu:Open pick:0 edit type:X enter file:new.pux menu:SaveAs",
+            "G-A title of over thirty characters | A title of over thirty characters | "
+            "AWORDOFOVERTWENTYLETTERS | "
+            "SAC | 1 | new.pux=2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERS/",
+            "file file");
+        row("word:CAT yes escape menu:NewPuzzle", "G-NP | NP |  | C | 0", "save? file");
+        row("word:CAT no escape menu:Open closemain", "G - NP | NP | CAT | AC | 1", "save? file");
+        row("word:CAT no menu:Exit", "G - NP | NP | CAT | AC | 1", "save?");
+        row("ok tool:Save", "G - NP | NP |  |  | 0", "nothing to save");
+        row("word:CAT pick:0 delete escape tool:Save", "G - NP | NP |  | AC | 0", "file");
+        row("type:CAT escape menu:About", "G - NP | NP |  |  | 0", "frmAbout");
+        // The puzzle.
+        row("word:CAT cancel create back", "G - NP | NP | CAT | AC | 1", "save?");
+        row("word:CAT yes file:new.pux create closepuzzle", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/",
+            "save? file");
+        row("file:many.pux menu:Open ok create", "G-M | M | 41 words | SAC | 41!", "file obstacle");
+    }
+
+    void ShowsWhatEachCommandLeaves()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, state);
+        QFETCH(QString, boxes);
+        for (const QString& step : script.split(' '))
+            Step(step);
+        QCOMPARE(State(), state);
+        QCOMPARE(Boxes(), boxes);
+    }
+
+    /// What is typed, composed, dropped or pasted into the boxes; what undo brings back.
+    void FiltersWhatIsEntered()
+    {
+        auto& word = Control<QLineEdit>("txtNewWords");
+        auto& title = Control<QLineEdit>("txtTitle");
+        QTest::keyClicks(&word, " a1b-c' d");
+        QCOMPARE(word.text(), "abc d");
+        QInputMethodEvent composed;
+        composed.setCommitString("\u00E9e\u0301\u4E2Df7");
+        QApplication::sendEvent(&word, &composed);
+        QCOMPARE(word.text(), "abc def");
+        QApplication::clipboard()->setText(" 3 pigs, abcdefghijklmnopqrstuv");
+        QTest::keyClick(&word, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(word.text(), "abc def");
+        word.paste();
+        QCOMPARE(word.text(), "abc def  pigs abcdef");
+        QTest::keyClicks(&word, "x");
+        QCOMPARE(word.text(), "abc def  pigs abcdef");
+        title.setFocus();
+        title.selectAll();
+        QApplication::clipboard()->setText("Caf\u00E9 \u20AC\u4E2D \u201CA\u201D\nB, far longer than thirty");
+        QTest::keyClick(&title, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(title.text(), "Caf\u00E9 \u20AC \u201CA\u201D B, far longer tha");
+        title.setText("A title of over thirty characters"); // as a file brings it
+        QTest::keyClick(&title, Qt::Key_Backspace);
+        QTest::keyClicks(&title, "x");
+        QCOMPARE(title.text(), "A title of over thirty character");
+        title.undo();
+        QCOMPARE(title.text(), "A title of over thirty characters");
+    }
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "main_window_test.moc"
