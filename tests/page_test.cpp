@@ -1,0 +1,121 @@
+#include "app/page_printer.h"
+#include "tests/support/puzzles.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+struct Placed {
+    QString text;
+    double left, right, top; // twips
+};
+
+/// What a reader of the PDF file finds on its pages.
+std::vector<Placed> ReadBack(const QString& path, int& pages, double& width)
+{
+    QProcess reader;
+    reader.start("pdftotext", {"-bbox", path, "-"});
+    reader.waitForFinished();
+    QXmlStreamReader xml(reader.readAllStandardOutput());
+    std::vector<Placed> words;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        const auto twips = [&xml](const char* name) {
+            return xml.attributes().value(QLatin1String(name)).toDouble() * 20;
+        };
+        if (xml.isStartElement() && xml.name() == QLatin1String("page")) {
+            ++pages;
+            width = twips("width");
+        }
+        if (xml.isStartElement() && xml.name() == QLatin1String("word")) {
+            const Placed word{{}, twips("xMin"), twips("xMax"), twips("yMin")};
+            words.push_back(word);
+            words.back().text = xml.readElementText();
+        }
+    }
+    return words;
+}
+
+} // namespace
+
+/// Prints real pages to PDF files and reads them back.
+class PageTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void PrintsWhereItShould_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("words");
+        QTest::addColumn<int>("paper");
+        const std::array<int, 5> counts{0, 1, 10, 11, 40};
+        std::size_t i = 0;
+        for (const int size : {10, 15, 16, 17, 21, 25, 30})
+            for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+                const int words = counts.at(i++ % counts.size());
+                QTest::addRow("%d, %d words, paper %d", size, words, paper)
+                    << size << words << static_cast<int>(paper);
+            }
+    }
+
+    void PrintsWhereItShould()
+    {
+        QFETCH(int, size);
+        QFETCH(int, words);
+        QFETCH(int, paper);
+        generator::RandomSource random = FixedRandom(8);
+        const Words list = RandomWords(random, words, 7);
+        generator::PuzzleWorkspace grid(random);
+        grid.PuzzleSize = size;
+        grid.FillPuzzle();
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("page.pdf");
+        PagePaper device("Title");
+        device.Printer().setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(paper)));
+        device.Printer().setOutputFileName(path);
+        QVERIFY(view::PrintPage(device, u"Animals", list, grid));
+
+        int pages = 0;
+        double width = 0;
+        const auto found = ReadBack(path, pages, width);
+        QCOMPARE(pages, 1);
+        QCOMPARE(found.size(), static_cast<std::size_t>(1 + words + size * size));
+        // The reader has its own order: what counts is that each text stands where it should.
+        const auto at = [&found](const QString& text, double left, double top) {
+            return std::ranges::find_if(found, [&](const Placed& placed) {
+                return placed.text == text && std::abs(placed.left - left) <= 0.5 &&
+                       std::abs(placed.top - top) <= 0.5;
+            });
+        };
+        const auto& title = found.front();
+        QCOMPARE(title.text, "Animals");
+        QVERIFY(std::abs((title.left + title.right) / 2 - width / 2) <= 0.5 &&
+                std::abs(title.top - 720) <= 0.5);
+        double column = 720;
+        double widest = 0;
+        for (int i = 0; i < words; ++i) {
+            if (i > 0 && i % 10 == 0)
+                column += std::exchange(widest, 0) + 1080;
+            const QString text = QString::fromStdU16String(list[static_cast<std::size_t>(i)]);
+            const auto word = at(text, column, 1800 + i % 10 * 330);
+            QVERIFY2(word != found.end(), qPrintable(text));
+            widest = std::max(widest, std::nearbyint(word->right - word->left));
+        }
+        const double step = size < 16 ? 560 : std::round(8640.0 / size);
+        const double gridLeft = std::nearbyint((width - size * step) / 2);
+        for (int cell = 0; cell < size * size; ++cell) {
+            const QString letter(QLatin1Char(grid.PuzzleArray(cell / size + 1, cell % size + 1)));
+            QVERIFY(at(letter, gridLeft + cell % size * step, 5718 + cell / size * step) != found.end());
+        }
+    }
+};
+
+QTEST_MAIN(PageTest)
+#include "page_test.moc"
