@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 
+#include "app/accessible.h"
 #include "app/frmAbout.h"
 #include "app/looks.h"
 #include "app/message_boxes.h"
@@ -33,6 +34,7 @@ constexpr int BottomRow = 5895;
 
 frmMain::frmMain(generator::RandomSource random) : Client(new QWidget(this)), Workspace(std::move(random))
 {
+    TellAssistiveTechnology();
     setObjectName(QStringLiteral("frmMain"));
     setPalette(looks::LightYellow());
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |

@@ -18,6 +18,7 @@ QToolBar* MakeToolbar(const QString& name, std::initializer_list<ToolbarButton> 
         action->setObjectName(QLatin1String(button.key));
         action->setToolTip(QObject::tr(button.tip));
         action->setData(++index);
+        toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // the keyboard reaches it too
     }
     return toolbar;
 }

@@ -42,51 +42,51 @@ private slots:
         row("word:CAT word:DOG pick:0 delete tool:Delete", "G - NP | NP | DOG | AC | 1");
         row("word:CAT pick:0 delete word:DOG", "G - NP | NP | DOG | AC | 1");
         row("word:CAT word:DOG pick:0 tool:Delete edit word:X", "G - NP | NP | CATX,DOG | AC | 2");
-        row("word:CAT pick:0 edit no menu:NewPuzzle word:X", "G-NP | NP | X | AC | 1", "save?");
+        row("word:CAT pick:0 edit no menu:fn word:X", "G-NP | NP | X | AC | 1", "save?");
         // The title.
-        row("title:_s leave menu:NewPuzzle", "G-NP | NP |  |  | 0");
-        row("clicktitle title:Pets leave no menu:NewPuzzle", "G-NP | NP |  |  | 0", "save?");
+        row("title:_s leave menu:fn", "G-NP | NP |  |  | 0");
+        row("clicktitle title:Pets leave no menu:fn", "G-NP | NP |  |  | 0", "save?");
         row("clicktitle leave clicktitle", "G - NP |  |  |  | 0");
         row("clicktitle leave", "G - NP | NP |  |  | 0");
         row("clicktitle title:Pets clicktitle", "G - NP | Pets |  |  | 0");
         // Files.
-        row("word:CAT cancel menu:NewPuzzle", "G - NP | NP | CAT | AC | 1", "save?");
+        row("word:CAT cancel menu:fn", "G - NP | NP | CAT | AC | 1", "save?");
         row("word:CAT no tool:New", "G-NP | NP |  | C | 0", "save?");
-        row("word:CAT file:new.pux menu:SaveAs", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/", "file");
+        row("word:CAT file:new.pux menu:fe", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/", "file");
         row("word:CAT file:new.pux tool:Save word:DOG", "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/",
             "file");
-        row("word:CAT file:new.pux menu:SaveAs word:DOG menu:Save",
+        row("word:CAT file:new.pux menu:fe word:DOG menu:fv",
             "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file");
-        row("word:CAT file:new.pux menu:SaveAs word:DOG file:new.pux yes menu:SaveAs",
+        row("word:CAT file:new.pux menu:fe word:DOG file:new.pux yes menu:fe",
             "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file file replace?");
-        row("word:CAT file:missing/new.pux ok menu:SaveAs", "G - NP | NP | CAT | AC | 1", "file no folder");
-        row("file:good.pux menu:Open", "G-Pets | Pets | DOG,CAT | SAC | 2", "file");
-        row("file:good.pux tool:Open file:new.pux menu:SaveAs word:EEL tool:Save",
+        row("word:CAT file:missing/new.pux ok menu:fe", "G - NP | NP | CAT | AC | 1", "file no folder");
+        row("file:good.pux menu:fo", "G-Pets | Pets | DOG,CAT | SAC | 2", "file");
+        row("file:good.pux tool:Open file:new.pux menu:fe word:EEL tool:Save",
             "G-Pets | Pets | DOG,CAT,EEL | SAC | 3 | new.pux=2.2/Pets/DOG/CAT/EEL/", "file file");
-        row("file:good.pux menu:Open clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2",
+        row("file:good.pux menu:fo clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2",
             "file save?");
-        row("file:older.pux ok menu:Open", "G-Old | Old | DOG | SAC | 1", "file older");
-        row("file:bad.pux ok menu:Open", "G-NP | NP |  | C | 0", "file bad");
-        row("file:bad.pux ok menu:Open word:DOG", "G-NP | NP | DOG | AC | 1", "file bad");
-        row("file:new.pux menu:Open", "G-NP | NP |  | SAC | 0", "file");
-        row("file:new.pux menu:Open word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/",
+        row("file:older.pux ok menu:fo", "G-Old | Old | DOG | SAC | 1", "file older");
+        row("file:bad.pux ok menu:fo", "G-NP | NP |  | C | 0", "file bad");
+        row("file:bad.pux ok menu:fo word:DOG", "G-NP | NP | DOG | AC | 1", "file bad");
+        row("file:new.pux menu:fo", "G-NP | NP |  | SAC | 0", "file");
+        row("file:new.pux menu:fo word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/",
             "file");
-        row("file:long.pux menu:Open pick:0 edit type:X enter file:new.pux menu:SaveAs",
+        row("file:long.pux menu:fo pick:0 edit type:X enter file:new.pux menu:fe",
             "G-A title of over thirty characters | A title of over thirty characters | "
             "AWORDOFOVERTWENTYLETTERS | "
             "SAC | 1 | new.pux=2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERS/",
             "file file");
-        row("word:CAT yes escape menu:NewPuzzle", "G-NP | NP |  | C | 0", "save? file");
-        row("word:CAT no escape menu:Open closemain", "G - NP | NP | CAT | AC | 1", "save? file");
-        row("word:CAT no menu:Exit", "G - NP | NP | CAT | AC | 1", "save?");
+        row("word:CAT yes escape menu:fn", "G-NP | NP |  | C | 0", "save? file");
+        row("word:CAT no escape menu:fo closemain", "G - NP | NP | CAT | AC | 1", "save? file");
+        row("word:CAT no menu:fq", "G - NP | NP | CAT | AC | 1", "save?");
         row("ok tool:Save", "G - NP | NP |  |  | 0", "nothing to save");
         row("word:CAT pick:0 delete escape tool:Save", "G - NP | NP |  | AC | 0", "file");
-        row("type:CAT escape menu:About", "G - NP | NP |  |  | 0", "frmAbout");
+        row("type:CAT escape menu:ha", "G - NP | NP |  |  | 0", "frmAbout");
         // The puzzle.
         row("word:CAT cancel create back", "G - NP | NP | CAT | AC | 1", "save?");
         row("word:CAT yes file:new.pux create closepuzzle", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/",
             "save? file");
-        row("file:many.pux menu:Open ok create", "G-M | M | 41 words | SAC | 41!", "file obstacle");
+        row("file:many.pux menu:fo ok create", "G-M | M | 41 words | SAC | 41!", "file obstacle");
     }
 
     void ShowsWhatEachCommandLeaves()
@@ -98,6 +98,10 @@ private slots:
             Step(step);
         QCOMPARE(State(), state);
         QCOMPARE(Boxes(), boxes);
+        for (const char* name :
+             {"mnuOpen", "mnuNewPuzzle", "mnuExit", "mnuAbout", "New", "Open", "Save", "Delete"})
+            QVERIFY2(Control<QAction>(name).isEnabled(), name); // always
+        QVERIFY(Control<QPushButton>("cmdEnter").isEnabled());
     }
 
     /// What is typed, composed, dropped or pasted into the boxes; what undo brings back.

@@ -1,7 +1,17 @@
 #include "tests/support/window_script.h"
 
+#include <QAccessible>
+#include <QDesktopServices>
+#include <QRegularExpression>
+
 class PuzzleWindowTest : public WindowScript {
     Q_OBJECT
+
+public slots:
+    void TakeAddress(const QUrl& address) { Addresses += address.toString(); }
+
+private:
+    QStringList Addresses;
 
 private slots:
     void ShowsThePuzzle()
@@ -16,10 +26,9 @@ private slots:
         QCOMPARE(Find<QLabel>(puzzle, "lblWords1").text(), "Wild Rose");
         for (int i = 2; i < 40; ++i)
             QCOMPARE(Find<QLabel>(puzzle, QString("lblWords%1").arg(i)).text(), QString());
-        auto rows = Find<PuzzleSurface>(puzzle, "pctPuzzle").Rows().remove(' ').split('\n');
         SolvedPuzzle solved{{}, {"Oak", "Wild Rose"}};
-        for (const QString& row : rows)
-            solved.rows.push_back(row.toStdString());
+        for (QString row : Find<PuzzleSurface>(puzzle, "pctPuzzle").Rows())
+            solved.rows.push_back(row.remove(' ').toStdString());
         QCOMPARE(solved.rows.size(), 10U);
         QCOMPARE(FaultOf(solved), std::string());
         // The letters are ink on the surface where they should be, and stay after it was covered.
@@ -41,12 +50,82 @@ private slots:
         Answering->Shown();
     }
 
+    void PrintsAgainAfterCancelAndFailure()
+    {
+        Step("word:CAT"), Step("no"), Step("create");
+        QWidget& puzzle = *ShownWindow("frmPuzzle");
+        const QString page = Folder->filePath("page.pdf");
+        for (const auto& answer :
+             {Dismiss(), PrintTo(Folder->filePath("missing/page.pdf")), PrintTo(page), PrintTo(page)}) {
+            QFile::remove(page);
+            Answering->Expect(answer);
+            ToolButton(puzzle, "PuzzleToolbar", "Print").click();
+            QVERIFY(puzzle.isVisible());
+        }
+        QVERIFY(QFile(page).size() > 1000);
+        Answering->Shown();
+    }
+
+    /// The maker's link goes to the desktop; whether anybody answers changes nothing.
+    void OpensTheMakersPage()
+    {
+        auto& link = Control<QLabel>("lblTallowick");
+        QDesktopServices::setUrlHandler("https", this, "TakeAddress");
+        QTest::mouseClick(&link, Qt::LeftButton);
+        link.setFocus();
+        QTest::keyClick(&link, Qt::Key_Space);
+        QDesktopServices::unsetUrlHandler("https");
+        QCOMPARE(Addresses, QStringList(QList<QString>(2, "https://www.tallowick.example/")));
+        QCOMPARE(State(), "G - NP | NP |  |  | 0");
+    }
+
+    /// Becoming active empties the word box; coming back from the task bar does not.
+    void BecomesActiveOnlyWhenShown()
+    {
+        Step("type:CAT");
+        Window->showMinimized();
+        Window->showNormal();
+        QCOMPARE(State(), "G - NP | NP |  |  | 0 | CAT");
+        Window->hide();
+        Window->show();
+        QCOMPARE(State(), "G - NP | NP |  |  | 0");
+    }
+
+    /// Every control that can be seen has a role and a name; the grid is a list of rows of letters.
+    void SpeaksToAssistiveTechnology()
+    {
+        Step("word:CAT"), Step("pick:0"), Step("no"), Step("create");
+        Window->show();
+        for (const QWidget* window : {static_cast<QWidget*>(Window.get()), ShownWindow("frmPuzzle")})
+            for (QWidget* control :
+                 window->findChildren<QWidget*>(QRegularExpression("^(lbl|txt|cmd|lst|pct)")))
+                if (auto* spoken = QAccessible::queryAccessibleInterface(control); control->isVisible()) {
+                    const bool blank = control->objectName().startsWith("lblWords") &&
+                                       spoken->text(QAccessible::Name).isEmpty();
+                    QVERIFY2(blank || !spoken->text(QAccessible::Name).isEmpty(),
+                             qPrintable(control->objectName()));
+                    QVERIFY(spoken->role() != QAccessible::NoRole && spoken->role() != QAccessible::Client);
+                    qInfo("%s: %s \"%s\"", qPrintable(control->objectName()),
+                          qPrintable(qAccessibleRoleString(spoken->role())),
+                          qPrintable(spoken->text(QAccessible::Name)));
+                }
+        auto& surface = Find<PuzzleSurface>(*ShownWindow("frmPuzzle"), "pctPuzzle");
+        auto* grid = QAccessible::queryAccessibleInterface(&surface);
+        QCOMPARE(grid->childCount(), 10);
+        for (int row = 0; row < 10; ++row) {
+            QCOMPARE(grid->child(row)->text(QAccessible::Name), surface.Rows().at(row));
+            QCOMPARE(grid->indexOfChild(grid->child(row)), row);
+            QVERIFY(grid->rect().contains(grid->child(row)->rect()));
+        }
+        QVERIFY(grid->child(10) == nullptr);
+        Answering->Shown();
+    }
+
     void AsksWhenTheSessionEnds()
     {
         Step("word:CAT"), Step("no"), Step("create"), Step("clicktitle");
         Step("cancel");
-        QVERIFY(
-            !Window->EndSession()); // the puzzle window has closed, the main window stays with its document
+        QVERIFY(!Window->EndSession()); // only the puzzle window has closed
         QVERIFY(Window->isVisible() && ShownWindow("frmPuzzle") == nullptr);
         Step("no");
         QVERIFY(Window->EndSession());

@@ -99,6 +99,8 @@ Answers::Answer PrintTo(const QString& path)
         for (QPushButton* button : dialog.findChildren<QPushButton*>())
             if (button->text().remove('&') == "Print")
                 button->click();
+        if (dialog.isVisible())
+            dialog.reject();
     };
 }
 

@@ -68,7 +68,7 @@ Answers::Answer Press(QMessageBox::StandardButton button);
 Answers::Answer ChooseFile(const QString& path);
 /// Escape.
 Answers::Answer Dismiss();
-/// Prints to a PDF file with the print dialog.
+/// Prints to a PDF file with the print dialog; cancels a dialog that does not take the path.
 Answers::Answer PrintTo(const QString& path);
 
 } // namespace driving

@@ -5,6 +5,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
+#include <utility>
+
 PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent)
 {
     setFont(looks::Font(looks::Monospaced, 8.25));
@@ -16,17 +19,24 @@ void PuzzleSurface::Draw(const std::vector<view::DrawnLetter>& letters)
     update();
 }
 
-QString PuzzleSurface::Rows() const
+QStringList PuzzleSurface::Rows() const
 {
-    QString rows;
-    const view::DrawnLetter* previous = nullptr;
+    QStringList rows;
+    double y = -1;
     for (const view::DrawnLetter& letter : Letters) {
-        if (previous != nullptr)
-            rows += letter.y != previous->y ? '\n' : ' ';
-        rows += QLatin1Char(letter.letter);
-        previous = &letter;
+        if (std::exchange(y, letter.y) == letter.y)
+            rows.last().append(' ').append(QLatin1Char(letter.letter));
+        else
+            rows += QString(QLatin1Char(letter.letter));
     }
     return rows;
+}
+
+QRect PuzzleSurface::RowRect(int row) const
+{
+    const auto spacing =
+        static_cast<double>(height()) * 0.8 / static_cast<double>(std::max(Rows().size(), qsizetype(1)));
+    return {mapToGlobal(QPoint(0, qRound(spacing * (row + 1)))), QSize(width(), qRound(spacing))};
 }
 
 void PuzzleSurface::paintEvent(QPaintEvent* /*event*/)

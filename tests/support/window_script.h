@@ -39,6 +39,16 @@ protected:
                           list.visualItemRect(list.item(position)).center());
     }
 
+    /// By the access keys: Alt and `menu`, then `item`.
+    void ChooseFromMenu(char menu, char item)
+    {
+        Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        QTest::keyClick(Window.get(), menu, Qt::AltModifier);
+        QVERIFY(QApplication::activePopupWidget() != nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), item);
+    }
+
     void WriteFile(const QString& name, const QByteArray& bytes)
     {
         QFile file(Folder->filePath(name));
@@ -67,7 +77,7 @@ protected:
             {"edit", [&] { Click("cmdEditWord"); }},
             {"delete", [&] { Click("cmdDelete"); }},
             {"tool", [&] { ToolButton(*Window, "Toolbar1", about).click(); }},
-            {"menu", [&] { Control<QAction>(qPrintable("mnu" + about.trimmed())).trigger(); }},
+            {"menu", [&] { ChooseFromMenu(about.at(0).toLatin1(), about.at(1).toLatin1()); }},
             {"title", [&] { Type("txtTitle", about); }},
             {"clicktitle", [&] { QTest::mouseClick(&Control<QLineEdit>("txtTitle"), Qt::LeftButton); }},
             {"leave", [&] { Control<QLineEdit>("txtNewWords").setFocus(); }},
