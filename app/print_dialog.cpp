@@ -22,11 +22,14 @@ QString ProposedPdf(const QString& title)
 
 bool RunPrintDialog(QPrinter& printer, QWidget& owner)
 {
-    if (QPrinterInfo::availablePrinterNames().isEmpty())
-        printer.setOutputFileName(ProposedPdf(printer.docName()));
+    printer.setOutputFileName(ProposedPdf(printer.docName()));
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        printer.setOutputFormat(QPrinter::NativeFormat); // the file is only proposed
     QPrintDialog dialog(&printer, &owner);
     dialog.setObjectName(QStringLiteral("PrinterDialog"));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
+    dialog.setMinMax(1,
+                     1); // there is one page to choose from, where a desktop offers the choice all the same
     return dialog.exec() == QDialog::Accepted;
 }

@@ -7,7 +7,12 @@
 namespace {
 
 using Cells = std::bitset<900>;
-constexpr int SearchBudget = 200'000;
+constexpr int SearchBudget = 20'000;
+
+bool Clash(const Cells& one, const Cells& other)
+{
+    return (one & other).count() > 1;
+}
 
 bool Within(int position, int size)
 {
@@ -47,39 +52,34 @@ std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::stri
     return found;
 }
 
-/// Chooses one place for each word, the most constrained words first.
+/// Chooses a place for each word so that no two share more than one cell: always the word with the fewest
+/// places left first, taking from the others what its place rules out.
 class Chooser {
 public:
-    explicit Chooser(std::vector<std::vector<Cells>> places) : Places(std::move(places)) {}
-
-    std::string Fault()
+    std::string Fault(std::vector<std::vector<Cells>> places)
     {
-        std::ranges::sort(Places, {}, [](const auto& places) { return places.size(); });
-        if (Choose(0))
+        if (Choose(std::move(places)))
             return "";
         return Budget > 0 ? "two words share more than one cell" : "undecided whether words overlap";
     }
 
 private:
-    bool Choose(std::size_t word)
+    bool Choose(std::vector<std::vector<Cells>> places)
     {
-        if (word == Places.size())
+        if (places.empty())
             return true;
-        for (const Cells& place : Places[word]) {
-            if (--Budget <= 0)
-                return false;
-            if (std::ranges::any_of(Chosen, [&](const Cells& other) { return (place & other).count() > 1; }))
-                continue;
-            Chosen.push_back(place);
-            if (Choose(word + 1))
-                return true;
-            Chosen.pop_back();
-        }
-        return false;
+        std::ranges::iter_swap(std::ranges::min_element(places, {}, &std::vector<Cells>::size),
+                               places.end() - 1);
+        const auto candidates = std::move(places.back());
+        places.pop_back();
+        return std::ranges::any_of(candidates, [&](const Cells& chosen) {
+            auto left = places;
+            for (auto& word : left)
+                std::erase_if(word, [&](const Cells& place) { return Clash(place, chosen); });
+            return --Budget > 0 && Choose(std::move(left));
+        });
     }
 
-    std::vector<std::vector<Cells>> Places;
-    std::vector<Cells> Chosen;
     int Budget = SearchBudget;
 };
 
@@ -97,5 +97,5 @@ std::string FaultOf(const SolvedPuzzle& puzzle)
         if (places.back().empty())
             return "not to be found: " + word;
     }
-    return Chooser(std::move(places)).Fault();
+    return Chooser().Fault(std::move(places));
 }

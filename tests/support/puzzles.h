@@ -50,8 +50,10 @@ inline Words AnyList(generator::RandomSource& random)
 {
     const int shape = random.DrawBelow(8);
     const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
+    const int most =
+        shape == 3 ? 10 : 40; // of one letter alone, more than that is a puzzle to the finder too
     Words words;
-    for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(40); count > 0; --count)
+    for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(most); count > 0; --count)
         words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());
     for (auto& word : words) {
         if (shape == 1)
