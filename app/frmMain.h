@@ -57,6 +57,7 @@ private:
     void ShowEditButtons(bool shown);
     void LeaveEditMode();
     void ClearTextbox();
+    void FocusWordBox();
     void WordCounter();
 
     // The document (frmMain_document.cpp).

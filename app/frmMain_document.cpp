@@ -83,6 +83,8 @@ bool frmMain::Form_QueryUnload()
 
 void frmMain::Form_Unload()
 {
+    if (Puzzle)
+        Puzzle->disconnect(this); // a window that has closed must not come back
     Terminate();
 }
 

@@ -17,7 +17,11 @@ void frmMain::cmdCreatePuzzle_Click()
     FillPuzzleWindow();
     Workspace.LoadWordsArray(words);
     Workspace.LoadPuzzleArray();
+    QWidget* focused = focusWidget();
     hide();
+    if (focused != nullptr)
+        focused
+            ->setFocus(); // hiding passes the focus on; it is to be where it was when the window comes back
     DrawToPictureBox();
     Puzzle->show();
 }

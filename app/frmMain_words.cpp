@@ -17,7 +17,7 @@ void frmMain::AddWord()
 {
     const QString word = txtNewWords->text();
     if (word.isEmpty()) {
-        txtNewWords->setFocus();
+        FocusWordBox();
         return;
     }
     if (!UserWantsDuplicates(word)) {
@@ -65,8 +65,9 @@ void frmMain::ConfirmEdit()
         AddWord();
         return;
     }
+    const QString word = txtNewWords->text();
     lstWordlist->Remove(EditIndex);
-    lstWordlist->Insert(EditIndex, txtNewWords->text());
+    lstWordlist->Insert(EditIndex, word);
     ClearTextbox();
     WordCounter();
     Saved = false;
@@ -86,7 +87,7 @@ void frmMain::EditWord()
     txtNewWords->setText(SelectedWord);
     EditMode = true;
     EditIndex = lstWordlist->SelectedPosition();
-    txtNewWords->setFocus();
+    FocusWordBox();
     cmdEnter->setText(tr("Enter (EditMode)"));
     cmdCreatePuzzle->setEnabled(false);
     ShowEditButtons(false);
@@ -127,7 +128,17 @@ void frmMain::LeaveEditMode()
 void frmMain::ClearTextbox()
 {
     txtNewWords->clear();
+    FocusWordBox();
+}
+
+/// Also while the window is not the active one, as after a box that has just closed: the title box does not
+/// hear of losing the focus then.
+void frmMain::FocusWordBox()
+{
+    const bool leavesTitle = focusWidget() == txtTitle;
     txtNewWords->setFocus();
+    if (leavesTitle)
+        txtTitle_LostFocus();
 }
 
 void frmMain::WordCounter()

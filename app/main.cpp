@@ -17,8 +17,12 @@ int main(int argc, char* argv[])
     frmMain window;
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      [&window](QSessionManager& session) {
-                         if (session.allowsInteraction() && !window.EndSession())
+                         session.setRestartHint(QSessionManager::RestartNever);
+                         if (!session.allowsInteraction())
+                             return;
+                         if (!window.EndSession())
                              session.cancel();
+                         session.release();
                      });
     window.show();
     return QApplication::exec();

@@ -53,6 +53,10 @@ void Answers::Look()
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || Answered.contains(dialog) || !dialog->isVisible())
         return;
+    if (!dialog->isActiveWindow()) {
+        dialog->activateWindow(); // until then it takes keys and texts otherwise than before a user
+        return;
+    }
     Answered.removeAll(nullptr);
     Answered += dialog;
     if (Expected.empty()) {
@@ -79,7 +83,9 @@ Answers::Answer Press(QMessageBox::StandardButton button)
 Answers::Answer ChooseFile(const QString& path)
 {
     return [path](QDialog& dialog) {
-        Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
+        auto& box = Find<QLineEdit>(dialog, "fileNameEdit");
+        box.setFocus(); // without it the dialog keeps the file that it has selected
+        box.setText(path);
         // The dialog takes a path as typed only from its box: its accept is that of the button.
         QMetaObject::invokeMethod(&dialog, "accept");
         if (dialog.isVisible())

@@ -35,7 +35,8 @@ std::vector<std::u16string> WordList::Words() const
 void WordList::Insert(int position, const QString& word)
 {
     auto* entry = new QListWidgetItem(word);
-    entry->setToolTip(word.toHtmlEscaped()); // a word may be cut short by its column
+    // A word may be cut short by its column. The tags make sure of a rich text, which shows the escaped one.
+    entry->setToolTip(QStringLiteral("<span>%1</span>").arg(word.toHtmlEscaped()));
     insertItem(position, entry);
     // Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
     if (count() > Columns * Rows)
@@ -44,8 +45,8 @@ void WordList::Insert(int position, const QString& word)
 
 void WordList::Remove(int position)
 {
-    if (position == SelectedPosition())
-        setCurrentItem(nullptr); // else the view selects a neighbour
+    if (position == currentRow())
+        setCurrentItem(nullptr); // else the view selects a neighbour, also of an entry that was not selected
     delete takeItem(position);
     if (count() <= Columns * Rows)
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -80,11 +81,13 @@ void WordList::mousePressEvent(QMouseEvent* event)
 }
 
 /// With nothing selected the first arrow key selects the entry that has the focus rather than the one after
-/// it.
+/// it, and so do Home and End where they find nowhere to go.
 void WordList::keyPressEvent(QKeyEvent* event)
 {
     const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
-    if (arrow && SelectedPosition() < 0 && currentItem() != nullptr)
+    const bool stays = (event->key() == Qt::Key_Home && currentRow() == 0) ||
+                       (event->key() == Qt::Key_End && currentRow() == count() - 1);
+    if ((arrow || stays) && SelectedPosition() < 0 && currentItem() != nullptr)
         currentItem()->setSelected(true);
     else
         QListWidget::keyPressEvent(event);

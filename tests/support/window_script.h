@@ -26,9 +26,31 @@ protected:
 
     void Click(const char* button) { QTest::mouseClick(&Control<QPushButton>(button), Qt::LeftButton); }
 
+    void Start()
+    {
+        Window = std::make_unique<frmMain>(FixedRandom(1));
+        Window->show();
+        Activate();
+    }
+
+    void Activate()
+    {
+        Window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+    }
+
+    /// From the list by the Tab key past the end of the window and the title box to the word box.
+    void TabRound()
+    {
+        for (Control<QWidget>("lstWordlist").setFocus(Qt::TabFocusReason);
+             Window->focusWidget() != &Control<QLineEdit>("txtNewWords");)
+            QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);
+    }
+
     void Type(const char* box, const QString& text)
     {
         Control<QLineEdit>(box).setFocus();
+        QTest::keyClick(&Control<QLineEdit>(box), Qt::Key_End);
         QTest::keyClicks(&Control<QLineEdit>(box), text);
     }
 
@@ -42,8 +64,7 @@ protected:
     /// By the access keys: Alt and `menu`, then `item`.
     void ChooseFromMenu(char menu, char item)
     {
-        Window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        Activate();
         QTest::keyClick(Window.get(), menu, Qt::AltModifier);
         QVERIFY(QApplication::activePopupWidget() != nullptr);
         QTest::keyClick(QApplication::activePopupWidget(), item);
@@ -81,6 +102,7 @@ protected:
             {"title", [&] { Type("txtTitle", about); }},
             {"clicktitle", [&] { QTest::mouseClick(&Control<QLineEdit>("txtTitle"), Qt::LeftButton); }},
             {"leave", [&] { Control<QLineEdit>("txtNewWords").setFocus(); }},
+            {"tabs", [&] { TabRound(); }},
             {"titleenter", [&] { QTest::keyClick(&Control<QLineEdit>("txtTitle"), Qt::Key_Enter); }},
             {"create", [&] { Click("cmdCreatePuzzle"); }},
             {"back", [&] { ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", "Back").click(); }},
@@ -105,7 +127,7 @@ protected:
         for (int i = 0; i < Control<QListWidget>("lstWordlist").count(); ++i)
             words += Control<QListWidget>("lstWordlist").item(i)->text();
         const auto flag = [](bool on, const char* name) { return on ? QString(name) : QString(); };
-        if (words.size() > 5)
+        if (words.size() > MostWords)
             words = {QString("%1 words").arg(words.size())};
         const bool edit = Control<QPushButton>("cmdEditWord").isVisibleTo(Window.get());
         const auto& count = Control<QLabel>("lblWordCount");
@@ -149,15 +171,16 @@ protected:
         QStringList shown;
         for (const QString& text : Answering->Shown()) {
             const auto name = names.find(text);
-            shown += name != names.end()                               ? name->second
-                     : text.contains("already exists.")                ? "replace?"
-                     : text.contains("no such folder")                 ? "no folder"
-                     : text.contains("room for 40. Please remove 1; ") ? "obstacle"
-                                                                       : text;
+            shown += name != names.end()                            ? name->second
+                     : text.contains("already exists.")             ? "replace?"
+                     : text.contains("no such folder")              ? "no folder"
+                     : text.contains("cannot become a puzzle yet.") ? "obstacle"
+                                                                    : text;
         }
         return shown.join(' ');
     }
 
+    int MostWords = 5; ///< a state names; longer lists it counts
     std::unique_ptr<QTemporaryDir> Folder;
     std::unique_ptr<frmMain> Window;
     std::unique_ptr<Answers> Answering;
@@ -175,9 +198,7 @@ private slots:
                   "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
         WriteFile("many.pux", "\"2.2\"\r\n\"M\"\r\n" + QByteArray("W\r\n").repeated(41));
         Answering = std::make_unique<Answers>();
-        Window = std::make_unique<frmMain>(FixedRandom(1));
-        Window->show();
-        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        Start();
     }
 
     void cleanup()

@@ -1,0 +1,320 @@
+#include "tests/support/window_script.h"
+
+#include <QRandomGenerator>
+
+namespace {
+
+struct Document {
+    QString marker, title;
+    QStringList words;
+};
+
+/// The program as its rules have it, without a window. It answers the boxes that it brings up by chance and
+/// notes box and answer for the real window to be given the same.
+struct Model {
+    QRandomGenerator& Chance;
+    QMap<QString, Document>& Disk;
+    QStringList Boxes = {}, Answers = {};
+    QString Caption = "Glyphgrove - New Puzzle", Title = "New Puzzle", Word = {}, DocFileName = {},
+            SelectedWord = {};
+    QStringList Words = {};
+    int Selected = -1, EditIndex = -1;
+    bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
+    bool Saved = true, TitleSet = false, InTitle = false, Puzzle = false, Closed = false;
+
+    QString Ask(const QString& box, const QStringList& answers)
+    {
+        Boxes += box;
+        Answers += answers[Chance.bounded(static_cast<int>(answers.size()))];
+        return Answers.last();
+    }
+    void LeaveTitle()
+    {
+        if (std::exchange(InTitle, false) && Title.isEmpty()) {
+            Title = "New Puzzle";
+            TitleSet = false;
+        }
+    }
+    void ClearTextbox()
+    {
+        Word.clear();
+        LeaveTitle();
+    }
+    void ShowChange()
+    {
+        ClearTextbox();
+        Create = true;
+        Saved = EditButtons = false;
+    }
+    void Enter()
+    {
+        if (Word.isEmpty())
+            return EditMode ? void() : LeaveTitle();
+        if (!std::exchange(EditMode, false) || EditIndex < 0 || EditIndex >= Words.size())
+            return Add();
+        Words[EditIndex] = Word;
+        Selected = Selected == EditIndex ? -1 : Selected;
+        ShowChange();
+    }
+    void Add()
+    {
+        for (auto equal = Words.count(Word); equal > 0; --equal)
+            if (Ask("again?", {"yes", "yes", "no", "escape"}) != "yes")
+                return ClearTextbox();
+        if (Words.size() >= 40) {
+            Ask("limit", {"ok", "escape"});
+            return ClearTextbox();
+        }
+        const auto before = [](const QString& a, const QString& b) {
+            return a.compare(b, Qt::CaseInsensitive) < 0;
+        };
+        const auto place = std::ranges::upper_bound(Words, Word, before);
+        Selected += place - Words.begin() <= Selected ? 1 : 0;
+        Words.insert(place, Word);
+        SaveAs = true;
+        Save = Save || !DocFileName.isEmpty();
+        ShowChange();
+    }
+    void Pick(int position)
+    {
+        Selected = position;
+        SelectedWord = Words[position];
+        EditButtons = true;
+        ClearTextbox();
+    }
+    void EditWord()
+    {
+        LeaveTitle();
+        Word = SelectedWord;
+        EditMode = true;
+        EditIndex = Selected;
+        Create = EditButtons = false;
+    }
+    void Delete(bool byToolbar)
+    {
+        EditButtons = byToolbar ? EditButtons : Selected < 0;
+        ClearTextbox();
+        if (Selected < 0)
+            return;
+        Words.removeAt(std::exchange(Selected, -1));
+        EditMode = Saved = false;
+    }
+    bool CheckForSave()
+    {
+        const QString answer = Saved ? "" : Ask("save?", {"yes", "no", "cancel", "escape"});
+        if (answer == "yes")
+            Save ? Write(DocFileName) : RunSaveAs();
+        Saved = Saved || answer == "no";
+        return answer == "cancel" || answer == "escape";
+    }
+    void Reset()
+    {
+        ClearTextbox();
+        Title = "New Puzzle";
+        Caption = "Glyphgrove-New Puzzle";
+        Words.clear();
+        Selected = -1;
+        Save = SaveAs = false;
+        Saved = true;
+    }
+    void New()
+    {
+        if (CheckForSave())
+            return;
+        Reset();
+        DocFileName.clear();
+    }
+    void Open()
+    {
+        const QString path =
+            CheckForSave() ? "escape" : Ask("file", Disk.keys() + QStringList{"gone.pux", "escape"});
+        if (path == "escape")
+            return;
+        Answers.last() = "file:" + path;
+        Reset();
+        Create = true;
+        const Document file = Disk.value(path);
+        DocFileName = file.marker == "bad" ? "" : path;
+        if (file.marker == "older" || file.marker == "bad")
+            Ask(file.marker, {"ok", "escape"});
+        if (file.marker == "bad")
+            return;
+        Save = SaveAs = TitleSet = true;
+        Title = Disk.contains(path) ? file.title : Title;
+        Words = file.words;
+        Caption = "Glyphgrove-" + Title;
+    }
+    void Write(const QString& path)
+    {
+        Disk[path] = {"", Title, Words};
+        Caption = "Glyphgrove-" + Title;
+        Saved = true;
+    }
+    void RunSaveAs()
+    {
+        const QString path = Ask("file", {"new1.pux", "new2.pux", "escape"});
+        if (path == "escape")
+            return;
+        Answers.last() = "file:" + path;
+        if (Disk.contains(path) && Ask("replace?", {"yes", "no"}) == "no")
+            return;
+        Write(DocFileName = path);
+    }
+    void CreatePuzzle()
+    {
+        LeaveTitle();
+        CheckForSave();
+        const auto unfit = [](const QString& word) { return word.size() > 20 || word.trimmed().isEmpty(); };
+        if (Words.size() > 40 || std::ranges::any_of(Words, unfit))
+            Ask("obstacle", {"ok", "escape"});
+        else
+            Puzzle = true;
+    }
+    void ToolbarSave()
+    {
+        if (Save)
+            Write(DocFileName);
+        else if (SaveAs)
+            RunSaveAs();
+        else
+            Ask("nothing to save", {"ok", "escape"});
+    }
+    void Type(const QString& text)
+    {
+        LeaveTitle();
+        for (const QChar c : text)
+            if (Word.size() < 20 && (c == ' ' ? !Word.isEmpty() : c.isLetter()))
+                Word += c;
+    }
+    void ClickTitle()
+    {
+        InTitle = true;
+        if (Title == "New Puzzle" || !TitleSet) {
+            Title.clear();
+            TitleSet = true;
+        }
+        Saved = false;
+    }
+
+    /// Does what the step of a script says; false where the window would not let the user.
+    bool Do(const QString& step)
+    {
+        const QString about = step.section(':', 1).replace('_', ' ');
+        const std::map<QString, std::pair<bool, std::function<void()>>> actions{
+            {"type", {true, [&] { Type(about); }}},
+            {"enter", {true, [&] { Enter(); }}},
+            {"titleenter", {true, [&] { Enter(); }}},
+            {"wipe", {!InTitle, [&] { Word.clear(); }}},
+            {"title", {Title.size() + about.size() <= 30, [&] { InTitle = true, Title += about; }}},
+            {"clicktitle", {true, [&] { ClickTitle(); }}},
+            {"leave", {true, [&] { LeaveTitle(); }}},
+            {"tabs", {true, [&] { LeaveTitle(), InTitle = true, LeaveTitle(); }}},
+            {"pick", {about.toInt() < std::min<qsizetype>(Words.size(), 20), [&] { Pick(about.toInt()); }}},
+            {"edit", {EditButtons, [&] { EditWord(); }}},
+            {"delete", {EditButtons, [&] { LeaveTitle(), Delete(false); }}},
+            {"tool:Delete", {true, [&] { Delete(true); }}},
+            {"tool:New", {true, [&] { New(); }}},
+            {"menu:fn", {true, [&] { New(); }}},
+            {"tool:Open", {true, [&] { Open(); }}},
+            {"menu:fo", {true, [&] { Open(); }}},
+            {"tool:Save", {true, [&] { ToolbarSave(); }}},
+            {"menu:fv", {Save, [&] { Write(DocFileName); }}},
+            {"menu:fe", {SaveAs, [&] { RunSaveAs(); }}},
+            {"menu:fq", {true, [&] { Closed = !CheckForSave(); }}},
+            {"closemain", {true, [&] { Closed = !CheckForSave(); }}},
+            {"menu:ha", {true, [&] { Ask("frmAbout", {"escape"}), Word.clear(); }}},
+            {"create", {Create, [&] { CreatePuzzle(); }}},
+            {"back", {Puzzle, [&] { Puzzle = false, Word.clear(); }}},
+            {"closepuzzle", {Puzzle, [&] { Puzzle = false, Word.clear(); }}},
+        };
+        const auto exact = actions.find(step);
+        const auto& [possible, act] =
+            exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
+        const bool done = possible && (!Puzzle || step == "back" || step == "closepuzzle");
+        if (done)
+            act();
+        return done;
+    }
+
+    QString State() const
+    {
+        const auto flag = [](bool on, const char* name) { return on ? QString(name) : QString(); };
+        QString state = QStringList{Caption, Title, Words.join(','),
+                                    flag(Save, "S") + flag(SaveAs, "A") + flag(Create, "C") +
+                                        flag(EditButtons, "E") + flag(EditMode, "M"),
+                                    QString::number(Words.size()) + flag(Words.size() >= 40, "!")}
+                            .join(" | ");
+        if (!Word.isEmpty())
+            state += " | " + Word;
+        for (const char* name : {"new1.pux", "new2.pux"})
+            if (Disk.contains(name))
+                state += QString(" | ") + name + "=2.2/" +
+                         (QStringList(Disk[name].title) + Disk[name].words).join('/') + '/';
+        return state.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
+    }
+};
+
+} // namespace
+
+/// A user who does anything at any time: after every step the window shows what its model does, and the same
+/// boxes came. GLYPHGROVE_ACTIONS and GLYPHGROVE_SEED set the walk's length and course.
+class RandomWalkTest : public WindowScript {
+    Q_OBJECT
+
+private slots:
+    void WindowDoesAsItsModel()
+    {
+        const int count = std::max(qEnvironmentVariableIntValue("GLYPHGROVE_ACTIONS"), 1500);
+        const int seed = qEnvironmentVariableIntValue("GLYPHGROVE_SEED");
+        qInfo("seed %d, %d actions", seed, count);
+        QApplication::setQuitOnLastWindowClosed(false); // the next window follows
+        MostWords = 1000;
+        const QString longTitle = "A title of over thirty characters";
+        QMap<QString, Document> disk{{"good.pux", {"", "Pets", {"DOG", "CAT"}}},
+                                     {"older.pux", {"older", "Old", {"DOG"}}},
+                                     {"bad.pux", {"bad", "", {}}},
+                                     {"long.pux", {"", longTitle, {"AWORDOFOVERTWENTYLETTERS"}}},
+                                     {"many.pux", {"", "M", QStringList(QList<QString>(41, "W"))}}};
+        QRandomGenerator chance(static_cast<quint32>(seed));
+        auto model = std::make_unique<Model>(chance, disk);
+        const QStringList steps =
+            QString("type:cat type:CAT type:Cat_ type:dog type:ice_cream type:_zebra type:a type:b "
+                    "type:1-2 type:abcdefghijklmnopqrstuvw enter enter enter enter enter enter enter "
+                    "enter enter titleenter wipe title:x_y title:_Title clicktitle leave edit edit delete "
+                    "tool:Delete tool:New menu:fn tool:Open menu:fo tool:Save menu:fv menu:fe menu:fq "
+                    "closemain menu:ha create create back closepuzzle pick pick pick pick tabs tabs")
+                .split(' ');
+        QStringList done;
+        for (int i = 0; i < count;) {
+            QString step = steps[chance.bounded(static_cast<int>(steps.size()))];
+            if (step == "pick")
+                step += ':' + QString::number(chance.bounded(12));
+            if (!model->Do(step))
+                continue;
+            ++i;
+            done += (model->Answers + QStringList(step)).join(' ');
+            if (Window->isVisible())
+                Activate(); // as a desktop does when a box has closed
+            for (const QString& answer : std::exchange(model->Answers, {}))
+                Step(answer);
+            Step(step);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            const QString last = QString("seed %1, action %2, the last of: %3")
+                                     .arg(seed)
+                                     .arg(i)
+                                     .arg(done.mid(done.size() - 12).join("; "));
+            QVERIFY2(Answering->Done(), qPrintable(last));
+            QVERIFY2(Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == model->State() &&
+                         (ShownWindow("frmPuzzle") != nullptr) == model->Puzzle &&
+                         Window->isVisible() == (!model->Puzzle && !model->Closed),
+                     qPrintable(last + "\nwindow " + State() + "\nmodel  " + model->State()));
+            if (model->Closed) {
+                model = std::make_unique<Model>(chance, disk);
+                Start();
+            }
+        }
+    }
+};
+
+QTEST_MAIN(RandomWalkTest)
+#include "random_walk_test.moc"
