@@ -10,6 +10,7 @@
 #include "document/character_set.h"
 #include "wordlist/limits.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
@@ -52,6 +53,11 @@ frmMain::frmMain(generator::RandomSource random) : Client(new QWidget(this)), Wo
     adjustSize();
     looks::Centre(*this);
     Form_Load();
+}
+
+frmMain::~frmMain()
+{
+    qApp->disconnect(this); // taking the controls down moves the focus once more
 }
 
 void frmMain::BuildMenus()
@@ -107,7 +113,8 @@ void frmMain::BuildTitle()
     looks::Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
     connect(txtTitle, &EntryBox::Clicked, this, &frmMain::txtTitle_Click);
-    connect(txtTitle, &EntryBox::FocusLost, this, &frmMain::txtTitle_LostFocus);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*old*/, QWidget* now) { FocusMoved(now); });
 }
 
 void frmMain::BuildWordEntry()

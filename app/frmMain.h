@@ -19,6 +19,7 @@ class frmMain : public QMainWindow {
 
 public:
     explicit frmMain(generator::RandomSource random = generator::RandomSource());
+    ~frmMain() override;
 
     /// The desktop's session ends: closes the windows. False when the user wants to stay.
     bool EndSession();
@@ -71,6 +72,8 @@ private:
     void txtTitle_Change();
     void txtTitle_Click();
     void txtTitle_LostFocus();
+    void FocusMoved(QWidget* now);
+    void LeaveTitleBox();
     void ShowTitleInCaption();
 
     // Its files (frmMain_files.cpp).
@@ -101,12 +104,13 @@ private:
     QAction* mnuSaveAs = nullptr;
     QPointer<frmPuzzle> Puzzle; ///< while a puzzle is shown
 
-    bool Saved = true;      ///< no unsaved changes
-    bool TitleSet = false;  ///< the title box holds a title that a click must not clear
-    QString DocFileName;    ///< the file that Save writes; empty when there is none
-    QString RememberedName; ///< the name that the file dialogs open with
-    QString SelectedWord;   ///< the entry that was selected last
-    bool EditMode = false;  ///< Enter replaces an entry instead of adding one
-    int EditIndex = -1;     ///< that entry's position; -1 when none was selected
+    bool Saved = true;       ///< no unsaved changes
+    bool TitleSet = false;   ///< the title box holds a title that a click must not clear
+    bool InTitleBox = false; ///< the title box has the focus, or had it when the window was left
+    QString DocFileName;     ///< the file that Save writes; empty when there is none
+    QString RememberedName;  ///< the name that the file dialogs open with
+    QString SelectedWord;    ///< the entry that was selected last
+    bool EditMode = false;   ///< Enter replaces an entry instead of adding one
+    int EditIndex = -1;      ///< that entry's position; -1 when none was selected
     generator::PuzzleWorkspace Workspace;
 };

@@ -4,6 +4,8 @@
 
 #include <QCloseEvent>
 
+#include <utility>
+
 /// Offers to save unsaved changes. True when the user cancelled.
 bool frmMain::CheckForSave()
 {
@@ -96,6 +98,7 @@ void frmMain::txtTitle_Change()
 /// The first click into a box without a title of its own empties it.
 void frmMain::txtTitle_Click()
 {
+    InTitleBox = true; // the click may come before the window is told that it is active
     if (txtTitle->text() == tr("New Puzzle") || !TitleSet) {
         txtTitle->clear();
         TitleSet = true;
@@ -109,6 +112,22 @@ void frmMain::txtTitle_LostFocus()
         txtTitle->setText(tr("New Puzzle"));
         TitleSet = false;
     }
+}
+
+/// The title box has lost the focus when another control has it: not when a menu, a box or another window
+/// has.
+void frmMain::FocusMoved(QWidget* now)
+{
+    if (now == txtTitle)
+        InTitleBox = true;
+    else if (Client->isAncestorOf(now))
+        LeaveTitleBox();
+}
+
+void frmMain::LeaveTitleBox()
+{
+    if (std::exchange(InTitleBox, false))
+        txtTitle_LostFocus();
 }
 
 void frmMain::ShowTitleInCaption()

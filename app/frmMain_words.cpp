@@ -131,14 +131,10 @@ void frmMain::ClearTextbox()
     FocusWordBox();
 }
 
-/// Also while the window is not the active one, as after a box that has just closed: the title box does not
-/// hear of losing the focus then.
 void frmMain::FocusWordBox()
 {
-    const bool leavesTitle = focusWidget() == txtTitle;
     txtNewWords->setFocus();
-    if (leavesTitle)
-        txtTitle_LostFocus();
+    LeaveTitleBox(); // said outright: a window that is not the active one, as after a box, moves no focus yet
 }
 
 void frmMain::WordCounter()

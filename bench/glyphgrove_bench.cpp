@@ -1,10 +1,8 @@
-#include "app/frmMain.h"
 #include "app/page_printer.h"
-#include "tools/driving.h"
+#include "tools/script.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QPushButton>
 #include <QTemporaryDir>
 
 // How long a puzzle takes to make, to show and to print. The absolute times are this machine's; what to
@@ -50,17 +48,14 @@ BENCHMARK(MakePuzzle)
 /// From the click on Create Puzzle to the painted puzzle window.
 void ShowPuzzle(benchmark::State& state)
 {
-    frmMain window;
-    window.show();
+    driving::Script person;
+    person.Start();
     generator::RandomSource random;
-    auto& box = driving::Find<QLineEdit>(window, "txtNewWords");
-    for (const auto& word : RandomWords(random, state.range(0), state.range(1))) {
-        box.setText(QString::fromStdU16String(word));
-        driving::Find<QPushButton>(window, "cmdEnter").click();
-    }
-    driving::Answers answers; // the offer to save is answered with No at the first round
-    answers.Expect(driving::Press(QMessageBox::No));
-    auto& create = driving::Find<QPushButton>(window, "cmdCreatePuzzle");
+    for (const auto& word : RandomWords(random, state.range(0), state.range(1)))
+        person.Step("word:" + QString::fromStdU16String(word));
+    person.Run("no menu:fq"); // nothing is left to ask about
+    person.Window->show();
+    auto& create = person.Control<QPushButton>("cmdCreatePuzzle");
     for (auto _ : state) {
         create.click();
         QWidget* puzzle = driving::ShownWindow("frmPuzzle");

@@ -94,8 +94,7 @@ private slots:
         QFETCH(QString, script);
         QFETCH(QString, state);
         QFETCH(QString, boxes);
-        for (const QString& step : script.split(' '))
-            Step(step);
+        Run(script);
         QCOMPARE(State(), state);
         QCOMPARE(Boxes(), boxes);
         for (const char* name :

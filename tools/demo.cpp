@@ -1,8 +1,4 @@
-#include "app/frmMain.h"
-#include "tools/driving.h"
-
-#include <QDir>
-#include <QPushButton>
+#include "tools/script.h"
 
 #include <iostream>
 
@@ -11,20 +7,15 @@
 
 namespace {
 
-/// Lets the windows work until `done` or a few seconds have passed.
-bool WaitFor(const std::function<bool()>& done)
+bool Leave(const char* what, const QString& path, bool written)
 {
-    for (int i = 0; i < 500 && !done(); ++i) {
-        QTimer::singleShot(10, QCoreApplication::instance(), [] {});
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return done();
+    std::cout << what << ": " << qPrintable(written ? path : "could not be written") << '\n';
+    return written;
 }
 
-bool Leave(const QString& what, const QString& path, bool written)
+bool LeavePicture(const char* what, QWidget* window, const QString& path)
 {
-    std::cout << qPrintable(what) << ": " << qPrintable(written ? path : "could not be written") << '\n';
-    return written;
+    return Leave(what, path, window != nullptr && window->grab().save(path));
 }
 
 } // namespace
@@ -37,32 +28,20 @@ int main(int argc, char* argv[])
     }
     driving::PrepareApplication();
     const QApplication application(argc, argv);
+    driving::Script person;
     const QDir folder(argv[2]);
-
-    frmMain window;
-    window.show();
-    driving::Answers answers;
-    answers.Expect(driving::ChooseFile(QDir::current().absoluteFilePath(argv[1])));
-    driving::Find<QAction>(window, "mnuOpen").trigger();
-    auto& create = driving::Find<QPushButton>(window, "cmdCreatePuzzle");
-    if (!WaitFor([&] { return answers.Done() && create.isEnabled(); }))
-        return 1;
-    const QString mainPicture = folder.absoluteFilePath("main-window.png");
-    bool ok = Leave("main window", mainPicture, window.grab().save(mainPicture));
-
-    create.click();
-    QWidget* puzzle = driving::ShownWindow("frmPuzzle");
-    if (puzzle == nullptr)
-        return 1;
-    const QString puzzlePicture = folder.absoluteFilePath("puzzle-window.png");
-    ok = Leave("puzzle window", puzzlePicture, puzzle->grab().save(puzzlePicture)) && ok;
-
     const QString page = folder.absoluteFilePath("puzzle.pdf");
     QFile::remove(page);
-    answers.Expect(driving::PrintTo(page));
-    driving::ToolButton(*puzzle, "PuzzleToolbar", "Print").click();
-    ok = Leave("printed page", page, QFile::exists(page)) && ok;
 
-    driving::ToolButton(*puzzle, "PuzzleToolbar", "Back").click();
-    return ok && window.isVisible() ? 0 : 1;
+    person.Start();
+    person.Run(QString("file:%1 menu:fo").arg(argv[1]));
+    bool ok = LeavePicture("main window", person.Window.get(), folder.absoluteFilePath("main-window.png"));
+    person.Step("create");
+    ok = LeavePicture("puzzle window", driving::ShownWindow("frmPuzzle"),
+                      folder.absoluteFilePath("puzzle-window.png")) &&
+         ok;
+    person.Folder = folder;
+    person.Run("pdf:puzzle.pdf print back");
+    ok = Leave("printed page", page, QFile::exists(page)) && ok;
+    return ok && person.Window->isVisible() ? 0 : 1;
 }

@@ -2,8 +2,8 @@
 
 #include "wordlist/limits.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QValidator>
 
 namespace {
@@ -51,19 +51,6 @@ void EntryBox::mouseReleaseEvent(QMouseEvent* event)
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit Clicked();
-}
-
-void EntryBox::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    switch (event->reason()) {
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-    case Qt::ActiveWindowFocusReason:
-        break; // the focus comes back
-    default:
-        emit FocusLost();
-    }
 }
 
 WordBox::WordBox(QWidget* parent)

@@ -13,12 +13,10 @@ public:
     EntryBox(const wordlist::EntryRule& rule, QWidget* parent);
 
 signals:
-    void Clicked();   ///< by the left mouse button
-    void FocusLost(); ///< to another control of its window: not to a menu, nor to another window
+    void Clicked(); ///< by the left mouse button
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 };
 
 /// The box for words. It discards control-key combinations, the clipboard's among them, as it discards any

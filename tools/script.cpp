@@ -1,0 +1,116 @@
+#include "tools/script.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <map>
+
+namespace driving {
+
+void Script::Start(generator::RandomSource random)
+{
+    Window = std::make_unique<frmMain>(std::move(random));
+    Window->show();
+    Activate();
+}
+
+void Script::Activate()
+{
+    Window->activateWindow();
+    const auto focusArrived = [this] { return QApplication::focusWidget() == Window->focusWidget(); };
+    if (!QTest::qWaitForWindowActive(Window.get()) || !QTest::qWaitFor(focusArrived))
+        qFatal("the main window does not become active");
+}
+
+void Script::Run(const QString& steps)
+{
+    for (const QString& step : steps.split(' '))
+        Step(step);
+}
+
+void Script::Step(const QString& step)
+{
+    const QString about = step.section(':', 1).replace('_', ' ');
+    const auto key = [this](const char* box, Qt::Key pressed) {
+        QTest::keyClick(&Control<QLineEdit>(box), pressed);
+    };
+    const auto puzzleTool = [](const char* name) {
+        ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", name).click();
+    };
+    const std::map<QString, std::function<void()>> steps{
+        {"type", [&] { Type("txtNewWords", about); }},
+        {"enter", [&] { key("txtNewWords", Qt::Key_Return); }},
+        {"wipe", [&] { Control<QLineEdit>("txtNewWords").selectAll(), key("txtNewWords", Qt::Key_Delete); }},
+        {"word", [&] { Type("txtNewWords", about), key("txtNewWords", Qt::Key_Return); }},
+        {"fill", [&] { Fill(about.toInt()); }},
+        {"title", [&] { Type("txtTitle", about); }},
+        {"titleenter", [&] { key("txtTitle", Qt::Key_Enter); }},
+        {"clicktitle", [&] { QTest::mouseClick(&Control<QLineEdit>("txtTitle"), Qt::LeftButton); }},
+        {"leave", [&] { Control<QLineEdit>("txtNewWords").setFocus(); }},
+        {"tabs", [&] { TabRound(); }},
+        {"pick", [&] { Pick(about.toInt()); }},
+        {"edit", [&] { Click("cmdEditWord"); }},
+        {"delete", [&] { Click("cmdDelete"); }},
+        {"create", [&] { Click("cmdCreatePuzzle"); }},
+        {"tool", [&] { ToolButton(*Window, "Toolbar1", about).click(); }},
+        {"menu", [&] { ChooseFromMenu(about.at(0).toLatin1(), about.at(1).toLatin1()); }},
+        {"print", [&] { puzzleTool("Print"); }},
+        {"back", [&] { puzzleTool("Back"); }},
+        {"closepuzzle", [&] { ShownWindow("frmPuzzle")->close(); }},
+        {"closemain", [&] { Window->close(); }},
+        {"yes", [&] { Answering.Expect(Press(QMessageBox::Yes)); }},
+        {"no", [&] { Answering.Expect(Press(QMessageBox::No)); }},
+        {"cancel", [&] { Answering.Expect(Press(QMessageBox::Cancel)); }},
+        {"ok", [&] { Answering.Expect(Press(QMessageBox::Ok)); }},
+        {"escape", [&] { Answering.Expect(Dismiss()); }},
+        {"file", [&] { Answering.Expect(ChooseFile(Folder.absoluteFilePath(about))); }},
+        {"pdf", [&] { Answering.Expect(PrintTo(Folder.absoluteFilePath(about))); }},
+    };
+    steps.at(step.section(':', 0, 0))();
+}
+
+void Script::Click(const char* button)
+{
+    QTest::mouseClick(&Control<QPushButton>(button), Qt::LeftButton);
+}
+
+void Script::Type(const char* box, const QString& text)
+{
+    auto& edit = Control<QLineEdit>(box);
+    edit.setFocus();
+    QTest::keyClick(&edit, Qt::Key_End);
+    QTest::keyClicks(&edit, text);
+}
+
+void Script::Fill(int words)
+{
+    for (int i = 0; i < words; ++i)
+        Step(QStringLiteral("word:W%1%2").arg(QChar('a' + i % 26)).arg(QChar('a' + i / 26)));
+}
+
+void Script::Pick(int position)
+{
+    auto& list = Control<QListWidget>("lstWordlist");
+    const QPoint place = list.visualItemRect(list.item(position)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+}
+
+/// Past the end of the window and the title box.
+void Script::TabRound()
+{
+    Control<QWidget>("lstWordlist").setFocus(Qt::TabFocusReason);
+    while (Window->focusWidget() != &Control<QWidget>("txtNewWords"))
+        QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);
+}
+
+void Script::ChooseFromMenu(char menu, char item)
+{
+    Activate();
+    QTest::keyClick(Window.get(), menu, Qt::AltModifier);
+    QWidget* popup = QApplication::activePopupWidget();
+    if (popup == nullptr)
+        qFatal("no menu opens with Alt and %c", menu);
+    QTest::keyClick(popup, item);
+}
+
+} // namespace driving

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/frmMain.h"
+#include "tools/driving.h"
+
+#include <QDir>
+
+#include <memory>
+
+namespace driving {
+
+/// Works the program by scripts: what a person does, step by step, with the real controls, menus, boxes and
+/// dialogs of the windows. A step is a word, or a word, a colon and what it is about, "_" for a blank there:
+///
+///     type:TEXT enter wipe word:TEXT fill:N   the word box; word is type and enter, fill adds N words
+///     title:TEXT titleenter clicktitle        the title box
+///     leave tabs                              to the word box, tabs by the Tab key from the list
+///     pick:N edit delete create               the list, from 0, and the buttons
+///     tool:KEY menu:AB                        the toolbar; the menus by their access keys
+///     print back closepuzzle closemain        the puzzle window, the close boxes
+///     yes no cancel ok escape file:NAME pdf:NAME
+///                                             answers, given before the step that brings up the question
+class Script {
+public:
+    explicit Script(const QString& folder = QString()) : Folder(folder) {}
+
+    /// Opens a main window of its own, in the place of the last.
+    void Start(generator::RandomSource random = generator::RandomSource());
+    /// Makes the window the active one, as a desktop does when a box has closed.
+    void Activate();
+    void Step(const QString& step);
+    /// Steps with blanks between them.
+    void Run(const QString& steps);
+
+    template <class T>
+    T& Control(const char* name)
+    {
+        return Find<T>(*Window, name);
+    }
+
+    QDir Folder; ///< of the files that the steps name
+    std::unique_ptr<frmMain> Window;
+    Answers Answering;
+
+private:
+    void Click(const char* button);
+    void Type(const char* box, const QString& text);
+    void Fill(int words);
+    void Pick(int position);
+    void TabRound();
+    void ChooseFromMenu(char menu, char item);
+};
+
+} // namespace driving
