@@ -76,8 +76,7 @@ void frmMain::BuildMenus()
     AddCommand(mnuHelp, "mnuAbout", tr("&About"), &frmMain::mnuAbout_Click);
 }
 
-QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption,
-                             void (frmMain::*command)())
+QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, void (frmMain::*command)())
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
@@ -129,6 +128,7 @@ void frmMain::BuildWordEntry()
 void frmMain::BuildCommandButtons()
 {
     cmdEnter = AddButton("cmdEnter", tr("Enter"), &frmMain::cmdEnter_Click);
+    cmdEnter->setAutoDefault(false); // it would cease to be the default once the focus had passed over it
     cmdEnter->setDefault(true);
     looks::Place(*cmdEnter, BoxLeft + BoxWidth + 150, WordRow, 1950, RowHeight);
     cmdCreatePuzzle = AddButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click);

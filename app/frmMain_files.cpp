@@ -83,8 +83,7 @@ bool frmMain::LoadFile(const QString& fileName)
                                "For maximum performance, saving this file will update it to 2.1.1 format."),
                             tr("Important!"));
     if (file.marker == document::Marker::Unknown) {
-        message_boxes::Tell(this,
-                            tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
+        message_boxes::Tell(this, tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
                             tr("WARNING!"));
         mnuSave->setEnabled(false);
         mnuSaveAs->setEnabled(false);

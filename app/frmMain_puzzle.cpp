@@ -20,8 +20,7 @@ void frmMain::cmdCreatePuzzle_Click()
     QWidget* focused = focusWidget();
     hide();
     if (focused != nullptr)
-        focused
-            ->setFocus(); // hiding passes the focus on; it is to be where it was when the window comes back
+        focused->setFocus(); // hiding passes the focus on; it is to be where it was when the window comes back
     DrawToPictureBox();
     Puzzle->show();
 }

@@ -65,9 +65,9 @@ void frmPuzzle::BuildWordLabels()
 /// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
 void frmPuzzle::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar(
-        QStringLiteral("PuzzleToolbar"),
-        {{"Print", "print", QT_TR_NOOP("Print Puzzle")}, {"Back", "back", QT_TR_NOOP("Go Back")}}, this);
+    QToolBar* toolbar =
+        MakeToolbar(QStringLiteral("PuzzleToolbar"),
+                    {{"Print", "print", QT_TR_NOOP("Print Puzzle")}, {"Back", "back", QT_TR_NOOP("Go Back")}}, this);
     looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
     connect(toolbar, &QToolBar::actionTriggered, this,
             [this](const QAction* action) { PuzzleToolbar_ButtonClick(ToolbarIndex(*action)); });
@@ -80,8 +80,7 @@ void frmPuzzle::BuildToolbar()
 void frmPuzzle::SetTitle(const QString& title)
 {
     lblBigTitle->setText(title);
-    const bool fits =
-        lblBigTitle->fontMetrics().horizontalAdvance(title) <= looks::ToPixels(*this, TitleWidth);
+    const bool fits = lblBigTitle->fontMetrics().horizontalAdvance(title) <= looks::ToPixels(*this, TitleWidth);
     looks::Place(*lblBigTitle, 120, 720, TitleWidth, fits ? TitleHeight : 2 * TitleHeight);
 }
 

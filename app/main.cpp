@@ -15,15 +15,14 @@ int main(int argc, char* argv[])
     const ThrowawaySettings settings;
 
     frmMain window;
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
-                     [&window](QSessionManager& session) {
-                         session.setRestartHint(QSessionManager::RestartNever);
-                         if (!session.allowsInteraction())
-                             return;
-                         if (!window.EndSession())
-                             session.cancel();
-                         session.release();
-                     });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager& session) {
+        session.setRestartHint(QSessionManager::RestartNever);
+        if (!session.allowsInteraction())
+            return;
+        if (!window.EndSession())
+            session.cancel();
+        session.release();
+    });
     window.show();
     return QApplication::exec();
 }

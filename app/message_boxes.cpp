@@ -28,8 +28,7 @@ bool Confirm(QWidget* owner, const QString& text, const QString& title)
 
 QMessageBox::StandardButton AskToSave(QWidget* owner, const QString& text, const QString& title)
 {
-    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-               QMessageBox::Cancel);
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
 }
 
 } // namespace message_boxes

@@ -44,15 +44,13 @@ std::optional<double> PagePaper::SetFont(const view::PageFont& font)
 
 std::optional<double> PagePaper::Measure(std::u16string_view text)
 {
-    return MetricsOf(CurrentFont)
-        .horizontalAdvance(QString::fromUtf16(text.data(), static_cast<int>(text.size())));
+    return MetricsOf(CurrentFont).horizontalAdvance(QString::fromUtf16(text.data(), static_cast<int>(text.size())));
 }
 
 bool PagePaper::Write(view::PagePoint position, std::u16string_view text)
 {
-    Texts.push_back({CurrentFont,
-                     {position.x, position.y},
-                     QString::fromUtf16(text.data(), static_cast<int>(text.size()))});
+    Texts.push_back(
+        {CurrentFont, {position.x, position.y}, QString::fromUtf16(text.data(), static_cast<int>(text.size()))});
     return true;
 }
 

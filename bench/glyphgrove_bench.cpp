@@ -10,8 +10,7 @@
 
 namespace {
 
-std::vector<std::u16string> RandomWords(generator::RandomSource& random, std::int64_t count,
-                                        std::int64_t length)
+std::vector<std::u16string> RandomWords(generator::RandomSource& random, std::int64_t count, std::int64_t length)
 {
     std::vector<std::u16string> words(static_cast<std::size_t>(count));
     for (auto& word : words)
@@ -38,12 +37,7 @@ void MakePuzzle(benchmark::State& state)
     state.counters["dense"] = benchmark::Counter(dense, benchmark::Counter::kAvgIterations);
     state.counters["lanes"] = benchmark::Counter(lanes, benchmark::Counter::kAvgIterations);
 }
-BENCHMARK(MakePuzzle)
-    ->Args({10, 5})
-    ->Args({40, 7})
-    ->Args({40, 12})
-    ->Args({40, 20})
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(MakePuzzle)->Args({10, 5})->Args({40, 7})->Args({40, 12})->Args({40, 20})->Unit(benchmark::kMicrosecond);
 
 /// From the click on Create Puzzle to the painted puzzle window.
 void ShowPuzzle(benchmark::State& state)

@@ -24,8 +24,7 @@ std::vector<int> ShuffledWords(RandomSource& random)
     std::vector<int> words(wordlist::MaxWords);
     std::iota(words.begin(), words.end(), 1);
     for (int last = wordlist::MaxWords - 1; last > 0; --last)
-        std::swap(words[static_cast<std::size_t>(last)],
-                  words[static_cast<std::size_t>(random.DrawBelow(last + 1))]);
+        std::swap(words[static_cast<std::size_t>(last)], words[static_cast<std::size_t>(random.DrawBelow(last + 1))]);
     return words;
 }
 
@@ -36,9 +35,8 @@ void PuzzleWorkspace::ArrangeDensely()
     Arranged = Arrangement::Dense;
     for (int pass = 0; pass < DensePasses; ++pass) {
         std::vector<int> words = ShuffledWords(Random);
-        std::ranges::stable_sort(words, std::ranges::greater(), [this](int word) {
-            return EntryLengths.at(static_cast<std::size_t>(word));
-        });
+        std::ranges::stable_sort(words, std::ranges::greater(),
+                                 [this](int word) { return EntryLengths.at(static_cast<std::size_t>(word)); });
         if (PlaceAllDensely(words))
             return;
         ClearPuzzleArray();
@@ -68,8 +66,7 @@ bool PuzzleWorkspace::PlaceAnywhere(int word)
             }
     if (legal.empty())
         return false;
-    const Placement& chosen =
-        legal[static_cast<std::size_t>(Random.DrawBelow(static_cast<int>(legal.size())))];
+    const Placement& chosen = legal[static_cast<std::size_t>(Random.DrawBelow(static_cast<int>(legal.size())))];
     Direction = chosen.direction;
     CurrentRow = chosen.row;
     CurrentColumn = chosen.column;

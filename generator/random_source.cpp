@@ -34,8 +34,7 @@ float RandomSource::Draw()
 
 int RandomSource::DrawBelow(int count)
 {
-    return static_cast<int>(static_cast<double>(count) *
-                            static_cast<double>(Draw())); // exact: no u rounds up
+    return static_cast<int>(static_cast<double>(count) * static_cast<double>(Draw())); // exact: no u rounds up
 }
 
 std::uint64_t RandomSource::SystemClock()

@@ -66,11 +66,9 @@ private slots:
         QTest::addColumn<QString>("words"); // each followed by '/'
         const auto row = [](const char* name, const char* bytes, Marker marker, const char* title,
                             const char* words) {
-            QTest::newRow(name) << QByteArray(bytes) << static_cast<int>(marker) << QString(title)
-                                << QString(words);
+            QTest::newRow(name) << QByteArray(bytes) << static_cast<int>(marker) << QString(title) << QString(words);
         };
-        row("as written", "\"2.2\"\r\n\"Animals\"\r\n\"CAT\"\r\n\"DOG\"\r\n", Marker::Current, "Animals",
-            "CAT/DOG/");
+        row("as written", "\"2.2\"\r\n\"Animals\"\r\n\"CAT\"\r\n\"DOG\"\r\n", Marker::Current, "Animals", "CAT/DOG/");
         row("older", "\"Glyphgrove2.1\"\r\n\"A\"\r\n\"B\"\r\n", Marker::Older, "A", "B/");
         row("file order", "\"2.2\"\r\n\"T\"\r\n\"dog\"\r\n\"CAT\"\r\n", Marker::Current, "T", "dog/CAT/");
         row("nothing", "", Marker::Unreadable, "-", "");
@@ -79,19 +77,15 @@ private slots:
         row("other case", "\"glyphgrove2.1\"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
         row("blank in the marker", "\"2.2 \"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
         row("only the marker", "\"2.2\"\r\n", Marker::Current, "-", "");
-        row("comma and blanks in quotes", "\"2.2\"\r\n\" a, b \"\r\n\"C D\"\r\n", Marker::Current, " a, b ",
-            "C D/");
-        row("quote in the title", "\"2.2\"\r\n\"Say \"Hi\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ",
-            "CAT/");
+        row("comma and blanks in quotes", "\"2.2\"\r\n\" a, b \"\r\n\"C D\"\r\n", Marker::Current, " a, b ", "C D/");
+        row("quote in the title", "\"2.2\"\r\n\"Say \"Hi\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ", "CAT/");
         row("comma after a quote", "\"2.2\"\r\n\"Say \"Hi, Ho\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ",
             "Ho\"\"/CAT/");
         row("empty title", "\"2.2\"\r\n\"\"\r\n\"CAT\"\r\n", Marker::Current, "", "CAT/");
         row("empty word", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\"\"\r\n\"B\"\r\n", Marker::Current, "T", "A/");
-        row("empty line among words", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\r\n\"B\"\r\n", Marker::Current, "T",
-            "A/");
+        row("empty line among words", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\r\n\"B\"\r\n", Marker::Current, "T", "A/");
         row("commas", "2.2,T,\"A\",B\r\n", Marker::Current, "T", "A/B/");
-        row("unquoted, blanks round it", "2.2\r\n  My title  \r\n A B \r\n", Marker::Current, "My title",
-            "A B/");
+        row("unquoted, blanks round it", "2.2\r\n  My title  \r\n A B \r\n", Marker::Current, "My title", "A B/");
         row("line feeds", "\"2.2\"\n\"T\"\nA\n\"B\"\n", Marker::Current, "T", "A/B/");
         row("carriage returns", "\"2.2\"\r\"T\"\rA\r\"B\"\r", Marker::Current, "T", "A/B/");
         row("no last line end", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\nB", Marker::Current, "T", "A/B/");

@@ -255,8 +255,7 @@ private slots:
             for (std::size_t direction = 0; direction < 8; ++direction)
                 if (!FitsNot.at(direction)(start / Size + 1, start % Size + 1, 1, Size)) {
                     ++directionWeights[direction];
-                    ++lineWeights[static_cast<std::size_t>(start /
-                                                           Size)]; // columns have the same by symmetry
+                    ++lineWeights[static_cast<std::size_t>(start / Size)]; // columns have the same by symmetry
                 }
         for (int i = 0; i < 200'000; ++i) {
             workspace.InsertionPointAndDirection();
@@ -276,8 +275,7 @@ private slots:
                     ++letters[static_cast<std::size_t>(c - 'A')];
         }
         const double letter = ChiSquare(letters, std::vector<double>(26, 1.0));
-        qInfo("chi-square: direction %.1f, row %.1f, column %.1f, letter %.1f", direction, row, column,
-              letter);
+        qInfo("chi-square: direction %.1f, row %.1f, column %.1f, letter %.1f", direction, row, column, letter);
         QVERIFY(direction < Limit7 && row < Limit9 && column < Limit9 && letter < Limit25);
     }
 
@@ -285,10 +283,9 @@ private slots:
     void PinsTheGrid()
     {
         const Words words{u"Acorn", u"Badger", u"Fern", u"Ice cream", u"Oak"};
-        QCOMPARE(
-            GridRows(MakePuzzle(words, FixedRandom(42))),
-            (std::vector<std::string>{"PSQVSPEDWI", "IJAZRAMZCE", "MRKVCRKEZG", "UEFOAVCXNC", "RARLERDFZJ",
-                                      "ENVNEHFKXG", "GFVAWNNISZ", "DBMDOECRQH", "AYYOAKXYET", "BCKAPITQWF"}));
+        QCOMPARE(GridRows(MakePuzzle(words, FixedRandom(42))),
+                 (std::vector<std::string>{"PSQVSPEDWI", "IJAZRAMZCE", "MRKVCRKEZG", "UEFOAVCXNC", "RARLERDFZJ",
+                                           "ENVNEHFKXG", "GFVAWNNISZ", "DBMDOECRQH", "AYYOAKXYET", "BCKAPITQWF"}));
         // A list of many misses and restarts that outgrows its first size, with words that fill all their
         // slots.
         RandomSource random = FixedRandom(7);

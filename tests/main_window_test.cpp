@@ -23,8 +23,7 @@ private slots:
         row("type:CAT titleenter", "G - NP | NP | CAT | AC | 1");
         row("word:CAT no word:CAT", "G - NP | NP | CAT | AC | 1", "again?");
         row("word:CAT escape word:CAT", "G - NP | NP | CAT | AC | 1", "again?");
-        row("word:CAT yes word:CAT yes yes word:CAT", "G - NP | NP | CAT,CAT,CAT | AC | 3",
-            "again? again? again?");
+        row("word:CAT yes word:CAT yes yes word:CAT", "G - NP | NP | CAT,CAT,CAT | AC | 3", "again? again? again?");
         row("fill:40 ok word:Z yes ok word:Waa", "G - NP | NP | 40 words | AC | 40!", "limit again? limit");
         row("fill:40 pick:0 delete", "G - NP | NP | 39 words | AC | 39");
         // Editing.
@@ -63,14 +62,12 @@ private slots:
         row("file:good.pux menu:fo", "G-Pets | Pets | DOG,CAT | SAC | 2", "file");
         row("file:good.pux tool:Open file:new.pux menu:fe word:EEL tool:Save",
             "G-Pets | Pets | DOG,CAT,EEL | SAC | 3 | new.pux=2.2/Pets/DOG/CAT/EEL/", "file file");
-        row("file:good.pux menu:fo clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2",
-            "file save?");
+        row("file:good.pux menu:fo clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2", "file save?");
         row("file:older.pux ok menu:fo", "G-Old | Old | DOG | SAC | 1", "file older");
         row("file:bad.pux ok menu:fo", "G-NP | NP |  | C | 0", "file bad");
         row("file:bad.pux ok menu:fo word:DOG", "G-NP | NP | DOG | AC | 1", "file bad");
         row("file:new.pux menu:fo", "G-NP | NP |  | SAC | 0", "file");
-        row("file:new.pux menu:fo word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/",
-            "file");
+        row("file:new.pux menu:fo word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/", "file");
         row("file:long.pux menu:fo pick:0 edit type:X enter file:new.pux menu:fe",
             "G-A title of over thirty characters | A title of over thirty characters | "
             "AWORDOFOVERTWENTYLETTERS | "
@@ -97,8 +94,7 @@ private slots:
         Run(script);
         QCOMPARE(State(), state);
         QCOMPARE(Boxes(), boxes);
-        for (const char* name :
-             {"mnuOpen", "mnuNewPuzzle", "mnuExit", "mnuAbout", "New", "Open", "Save", "Delete"})
+        for (const char* name : {"mnuOpen", "mnuNewPuzzle", "mnuExit", "mnuAbout", "New", "Open", "Save", "Delete"})
             QVERIFY2(Control<QAction>(name).isEnabled(), name); // always
         QVERIFY(Control<QPushButton>("cmdEnter").isEnabled());
     }

@@ -96,8 +96,7 @@ private slots:
         };
         const auto& title = found.front();
         QCOMPARE(title.text, "Animals");
-        QVERIFY(std::abs((title.left + title.right) / 2 - width / 2) <= 0.5 &&
-                std::abs(title.top - 720) <= 0.5);
+        QVERIFY(std::abs((title.left + title.right) / 2 - width / 2) <= 0.5 && std::abs(title.top - 720) <= 0.5);
         double column = 720;
         double widest = 0;
         for (int i = 0; i < words; ++i) {

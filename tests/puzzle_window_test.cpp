@@ -93,13 +93,11 @@ private slots:
         Run("word:CAT pick:0 no create");
         Window->show();
         for (const QWidget* window : {static_cast<QWidget*>(Window.get()), ShownWindow("frmPuzzle")})
-            for (QWidget* control :
-                 window->findChildren<QWidget*>(QRegularExpression("^(lbl|txt|cmd|lst|pct)")))
+            for (QWidget* control : window->findChildren<QWidget*>(QRegularExpression("^(lbl|txt|cmd|lst|pct)")))
                 if (auto* spoken = QAccessible::queryAccessibleInterface(control); control->isVisible()) {
-                    const bool blank = control->objectName().startsWith("lblWords") &&
-                                       spoken->text(QAccessible::Name).isEmpty();
-                    QVERIFY2(blank || !spoken->text(QAccessible::Name).isEmpty(),
-                             qPrintable(control->objectName()));
+                    const bool blank =
+                        control->objectName().startsWith("lblWords") && spoken->text(QAccessible::Name).isEmpty();
+                    QVERIFY2(blank || !spoken->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
                     QVERIFY(spoken->role() != QAccessible::NoRole && spoken->role() != QAccessible::Client);
                     qInfo("%s: %s \"%s\"", qPrintable(control->objectName()),
                           qPrintable(qAccessibleRoleString(spoken->role())),

@@ -15,8 +15,7 @@ struct Model {
     QRandomGenerator& Chance;
     QMap<QString, Document>& Disk;
     QStringList Boxes = {}, Answers = {};
-    QString Caption = "Glyphgrove - New Puzzle", Title = "New Puzzle", Word = {}, DocFileName = {},
-            SelectedWord = {};
+    QString Caption = "Glyphgrove - New Puzzle", Title = "New Puzzle", Word = {}, DocFileName = {}, SelectedWord = {};
     QStringList Words = {};
     int Selected = -1, EditIndex = -1;
     bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
@@ -65,9 +64,7 @@ struct Model {
             Ask("limit", {"ok", "escape"});
             return ClearTextbox();
         }
-        const auto before = [](const QString& a, const QString& b) {
-            return a.compare(b, Qt::CaseInsensitive) < 0;
-        };
+        const auto before = [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; };
         const auto place = std::ranges::upper_bound(Words, Word, before);
         Selected += place - Words.begin() <= Selected ? 1 : 0;
         Words.insert(place, Word);
@@ -126,8 +123,7 @@ struct Model {
     }
     void Open()
     {
-        const QString path =
-            CheckForSave() ? "escape" : Ask("file", Disk.keys() + QStringList{"gone.pux", "escape"});
+        const QString path = CheckForSave() ? "escape" : Ask("file", Disk.keys() + QStringList{"gone.pux", "escape"});
         if (path == "escape")
             return;
         Answers.last() = "file:" + path;
@@ -228,8 +224,7 @@ struct Model {
             {"closepuzzle", {Puzzle, [&] { Puzzle = false, Word.clear(); }}},
         };
         const auto exact = actions.find(step);
-        const auto& [possible, act] =
-            exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
+        const auto& [possible, act] = exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
         const bool done = possible && (!Puzzle || step == "back" || step == "closepuzzle");
         if (done)
             act();
@@ -240,8 +235,8 @@ struct Model {
     {
         const auto flag = [](bool on, const char* name) { return on ? QString(name) : QString(); };
         QString state = QStringList{Caption, Title, Words.join(','),
-                                    flag(Save, "S") + flag(SaveAs, "A") + flag(Create, "C") +
-                                        flag(EditButtons, "E") + flag(EditMode, "M"),
+                                    flag(Save, "S") + flag(SaveAs, "A") + flag(Create, "C") + flag(EditButtons, "E") +
+                                        flag(EditMode, "M"),
                                     QString::number(Words.size()) + flag(Words.size() >= 40, "!")}
                             .join(" | ");
         if (!Word.isEmpty())

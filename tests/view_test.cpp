@@ -146,8 +146,7 @@ private slots:
         const auto grid = Grid(size);
         QVERIFY(view::PrintPage(printer, u"T", {}, grid));
         QCOMPARE(printer.Ended, 1);
-        QCOMPARE(printer.Fonts.mid(0, 2),
-                 QStringList({"Times New Roman 26 bold italic", "Times New Roman 11"}));
+        QCOMPARE(printer.Fonts.mid(0, 2), QStringList({"Times New Roman 26 bold italic", "Times New Roman 11"}));
         QCOMPARE(printer.Fonts.mid(2).join('|'), fonts);
         QCOMPARE(printer.Texts.size(), static_cast<std::size_t>(size * size + 1));
         for (int cell = 0; cell < size * size; ++cell) {
@@ -204,8 +203,7 @@ private slots:
     {
         Recorder printer;
         printer.WholePoints = true;
-        QVERIFY(
-            view::PrintPage(printer, u"T", {}, Grid(15))); // 14.4 pt is taken as 14: no cap, the step stays
+        QVERIFY(view::PrintPage(printer, u"T", {}, Grid(15))); // 14.4 pt is taken as 14: no cap, the step stays
         QCOMPARE(printer.Fonts.size(), 3);
         QCOMPARE(printer.Texts[2].x - printer.Texts[1].x, 576.0);
     }

@@ -28,8 +28,7 @@ T& Find(const QObject& root, const QString& name)
     for (const QObject* object : root.findChildren<QObject*>())
         names += object->objectName();
     names.removeAll(QString());
-    qFatal("%s has no %s, but: %s", qPrintable(root.objectName()), qPrintable(name),
-           qPrintable(names.join(' ')));
+    qFatal("%s has no %s, but: %s", qPrintable(root.objectName()), qPrintable(name), qPrintable(names.join(' ')));
 }
 
 /// The window of this name that is shown, or null.

@@ -31,9 +31,7 @@ void Script::Run(const QString& steps)
 void Script::Step(const QString& step)
 {
     const QString about = step.section(':', 1).replace('_', ' ');
-    const auto key = [this](const char* box, Qt::Key pressed) {
-        QTest::keyClick(&Control<QLineEdit>(box), pressed);
-    };
+    const auto key = [this](const char* box, Qt::Key pressed) { QTest::keyClick(&Control<QLineEdit>(box), pressed); };
     const auto puzzleTool = [](const char* name) {
         ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", name).click();
     };

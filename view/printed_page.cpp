@@ -26,8 +26,7 @@ constexpr double MaxGridFontSize = 14;
 /// went along.
 class Page {
 public:
-    Page(PagePrinter& printer, std::span<const std::u16string> words,
-         const generator::PuzzleWorkspace& workspace)
+    Page(PagePrinter& printer, std::span<const std::u16string> words, const generator::PuzzleWorkspace& workspace)
         : Printer(printer), Words(words), Workspace(workspace)
     {
     }

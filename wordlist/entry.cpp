@@ -8,8 +8,7 @@ namespace {
 
 bool IsWordCharacter(char16_t character)
 {
-    return (character >= u'A' && character <= u'Z') || (character >= u'a' && character <= u'z') ||
-           character == u' ';
+    return (character >= u'A' && character <= u'Z') || (character >= u'a' && character <= u'z') || character == u' ';
 }
 
 } // namespace
@@ -41,11 +40,9 @@ Edit AdmitEdit(std::u16string_view before, const Edit& wanted, const EntryRule& 
     std::u16string admitted = rule.filter(inserted, boxEmpty);
     admitted.resize(std::min(admitted.size(), rule.limit - std::min(rule.limit, kept)));
 
-    Edit edit{std::u16string(after.substr(0, front)) + admitted +
-                  std::u16string(after.substr(after.size() - back)),
+    Edit edit{std::u16string(after.substr(0, front)) + admitted + std::u16string(after.substr(after.size() - back)),
               0};
-    const std::size_t behindCursor =
-        std::min(after.size() - std::min(wanted.cursor, after.size()), edit.text.size());
+    const std::size_t behindCursor = std::min(after.size() - std::min(wanted.cursor, after.size()), edit.text.size());
     edit.cursor = edit.text.size() - behindCursor;
     return edit;
 }

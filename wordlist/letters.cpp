@@ -42,8 +42,8 @@ std::optional<char> GridLetter(char16_t character)
         return static_cast<char>(character);
     if (character >= u'a' && character <= u'z')
         return static_cast<char>(character - u'a' + u'A');
-    const char letter = character >= 0xC0 && character <= 0xFF ? Latin1Letters[character - 0xC0U]
-                                                               : LetterBeyondLatin1(character);
+    const char letter =
+        character >= 0xC0 && character <= 0xFF ? Latin1Letters[character - 0xC0U] : LetterBeyondLatin1(character);
     return letter == ' ' ? std::nullopt : std::optional(letter);
 }
 

@@ -23,8 +23,8 @@ public:
         const bool edited = Box.isUndoAvailable() && !Box.isRedoAvailable();
         if (!edited || text == Before)
             return Acceptable;
-        const auto admitted = wordlist::AdmitEdit(
-            Before.toStdU16String(), {text.toStdU16String(), static_cast<std::size_t>(cursor)}, Rule);
+        const auto admitted = wordlist::AdmitEdit(Before.toStdU16String(),
+                                                  {text.toStdU16String(), static_cast<std::size_t>(cursor)}, Rule);
         const bool refused = admitted.text == Before.toStdU16String();
         if (refused)
             return Invalid; // the line edit takes the edit back and keeps its selection and its history

@@ -14,8 +14,7 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name,
-                                   QWidget* owner)
+PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name, QWidget* owner)
     : QFileDialog(owner)
 {
     setObjectName(QStringLiteral("dlgFileName"));
@@ -38,8 +37,7 @@ void PuzzleFileDialog::accept()
 {
     const QStringList files = selectedFiles();
     if (!files.isEmpty() && !FolderExists(files.constFirst()))
-        message_boxes::Tell(this,
-                            tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
+        message_boxes::Tell(this, tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
     else
         QFileDialog::accept();
 }

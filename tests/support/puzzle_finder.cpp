@@ -68,8 +68,7 @@ private:
     {
         if (places.empty())
             return true;
-        std::ranges::iter_swap(std::ranges::min_element(places, {}, &std::vector<Cells>::size),
-                               places.end() - 1);
+        std::ranges::iter_swap(std::ranges::min_element(places, {}, &std::vector<Cells>::size), places.end() - 1);
         const auto candidates = std::move(places.back());
         places.pop_back();
         return std::ranges::any_of(candidates, [&](const Cells& chosen) {

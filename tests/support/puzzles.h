@@ -50,15 +50,13 @@ inline Words AnyList(generator::RandomSource& random)
 {
     const int shape = random.DrawBelow(8);
     const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
-    const int most =
-        shape == 3 ? 10 : 40; // of one letter alone, more than that is a puzzle to the finder too
+    const int most = shape == 3 ? 10 : 40; // of one letter alone, more than that is a puzzle to the finder too
     Words words;
     for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(most); count > 0; --count)
         words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());
     for (auto& word : words) {
         if (shape == 1)
-            word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1,
-                        u' ');
+            word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1, u' ');
         if (shape == 2)
             word = words.front();
         if (shape == 4) {

@@ -98,8 +98,7 @@ private slots:
         WriteFile("good.pux", "\"2.2\"\r\n\"Pets\"\r\n\"DOG\"\r\n\"CAT\"\r\n");
         WriteFile("older.pux", "\"Glyphgrove2.1\"\r\n\"Old\"\r\n\"DOG\"\r\n");
         WriteFile("bad.pux", "\"Glyph\"\r\n\"T\"\r\n\"DOG\"\r\n");
-        WriteFile("long.pux",
-                  "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
+        WriteFile("long.pux", "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
         WriteFile("many.pux", "\"2.2\"\r\n\"M\"\r\n" + QByteArray("W\r\n").repeated(41));
         Start(FixedRandom(1));
     }
