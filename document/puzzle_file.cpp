@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view OlderMarker = u"Glyphgrove2.1";
 // A full list makes less than 2 KiB. What takes more than this is no document, and a title of a gigabyte
 // would not only fill the memory but the windows too.
-constexpr std::size_t MaxBytes = 64 * 1024;
+constexpr std::size_t MaxBytes = 65'536;
 
 /// Takes the fields of a file one after another. A field ends at a comma or a line end (LF, CR LF or CR).
 class FieldReader {

@@ -28,10 +28,10 @@ public:
 private:
     static constexpr std::size_t Index(int row, int column)
     {
-        return static_cast<std::size_t>(row * (LastColumn + 1) + column);
+        return static_cast<std::size_t>(row) * (LastColumn + 1) + static_cast<std::size_t>(column);
     }
 
-    std::array<char, (LastRow + 1) * (LastColumn + 1)> Letters{};
+    std::array<char, static_cast<std::size_t>(LastRow + 1) * (LastColumn + 1)> Letters{};
 };
 
 } // namespace generator

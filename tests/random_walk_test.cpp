@@ -271,7 +271,7 @@ private slots:
                                      {"long.pux", {"", longTitle, {"AWORDOFOVERTWENTYLETTERS"}}},
                                      {"many.pux", {"", "M", QStringList(QList<QString>(41, "W"))}}};
         QRandomGenerator chance(static_cast<quint32>(seed));
-        auto model = std::make_unique<Model>(chance, disk);
+        auto model = std::unique_ptr<Model>(new Model{chance, disk});
         const QStringList steps =
             QString("type:cat type:CAT type:Cat_ type:dog type:ice_cream type:_zebra type:a type:b "
                     "type:1-2 type:abcdefghijklmnopqrstuvw enter enter enter enter enter enter enter "
@@ -304,7 +304,7 @@ private slots:
                          Window->isVisible() == (!model->Puzzle && !model->Closed),
                      qPrintable(last + "\nwindow " + State() + "\nmodel  " + model->State()));
             if (model->Closed) {
-                model = std::make_unique<Model>(chance, disk);
+                model.reset(new Model{chance, disk});
                 Start(FixedRandom(1));
             }
         }
