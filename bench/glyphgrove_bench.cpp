@@ -68,7 +68,7 @@ void PrintPuzzle(benchmark::State& state)
 {
     const QTemporaryDir folder;
     generator::PuzzleWorkspace workspace;
-    const auto words = RandomWords(workspace.Random, 40, 12);
+    const auto words = RandomWords(workspace.Random, 40, 13);
     workspace.LoadWordsArray(words);
     workspace.LoadPuzzleArray();
     for (auto _ : state) {
