@@ -27,13 +27,14 @@ private slots:
         row("fill:40 ok word:Z yes ok word:Waa", "G - NP | NP | 40 words | AC | 40!", "limit again? limit");
         row("fill:40 pick:0 delete", "G - NP | NP | 39 words | AC | 39");
         // Editing.
-        row("word:CAT word:DOG pick:1", "G - NP | NP | CAT,DOG | ACE | 2");
-        row("word:CAT pick:0 type:X pick:0", "G - NP | NP | CAT | ACE | 1");
-        row("word:CAT word:DOG pick:1 edit", "G - NP | NP | CAT,DOG | AM | 2 | DOG");
+        row("word:CAT word:DOG pick:1", "G - NP | NP | CAT,DOG | ACE | 2 @1");
+        row("word:CAT pick:0 word:DOG", "G - NP | NP | CAT,DOG | AC | 2 @0");
+        row("word:CAT pick:0 type:X pick:0", "G - NP | NP | CAT | ACE | 1 @0");
+        row("word:CAT word:DOG pick:1 edit", "G - NP | NP | CAT,DOG | AM | 2 @1 | DOG");
         row("word:BEE word:CAT pick:0 edit wipe word:ZEBRA", "G - NP | NP | ZEBRA,CAT | AC | 2");
-        row("word:CAT word:DOG pick:1 edit pick:0", "G - NP | NP | CAT,DOG | AEM | 2");
-        row("word:CAT word:DOG pick:1 edit pick:0 word:EEL", "G - NP | NP | CAT,EEL | AC | 2");
-        row("word:CAT pick:0 edit wipe enter", "G - NP | NP | CAT | AM | 1");
+        row("word:CAT word:DOG pick:1 edit pick:0", "G - NP | NP | CAT,DOG | AEM | 2 @0");
+        row("word:CAT word:DOG pick:1 edit pick:0 word:EEL", "G - NP | NP | CAT,EEL | AC | 2 @0");
+        row("word:CAT pick:0 edit wipe enter", "G - NP | NP | CAT | AM | 1 @0");
         row("word:CAT word:DOG pick:0 edit wipe word:DOG", "G - NP | NP | DOG,DOG | AC | 2");
         row("word:CAT word:DOG pick:0 edit tool:Delete", "G - NP | NP | DOG | A | 1");
         row("word:CAT word:DOG pick:0 tool:Delete", "G - NP | NP | DOG | ACE | 1");
@@ -42,6 +43,8 @@ private slots:
         row("word:CAT pick:0 delete word:DOG", "G - NP | NP | DOG | AC | 1");
         row("word:CAT word:DOG pick:0 tool:Delete edit word:X", "G - NP | NP | CATX,DOG | AC | 2");
         row("word:CAT pick:0 edit no menu:fn word:X", "G-NP | NP | X | AC | 1", "save?");
+        row("word:CAT pick:0 edit no file:good.pux menu:fo tabs word:X", "G-Pets | Pets | X,CAT | SAC | 2",
+            "save? file");
         // The title.
         row("title:_s leave menu:fn", "G-NP | NP |  |  | 0");
         row("clicktitle title:Pets leave no menu:fn", "G-NP | NP |  |  | 0", "save?");
@@ -97,6 +100,26 @@ private slots:
         for (const char* name : {"mnuOpen", "mnuNewPuzzle", "mnuExit", "mnuAbout", "New", "Open", "Save", "Delete"})
             QVERIFY2(Control<QAction>(name).isEnabled(), name); // always
         QVERIFY(Control<QPushButton>("cmdEnter").isEnabled());
+    }
+
+    /// The dialogs open with the name that they remember.
+    void ProposesNames()
+    {
+        QStringList proposed;
+        const auto note = [&proposed](QDialog& dialog) {
+            proposed += Find<QLineEdit>(dialog, "fileNameEdit").text();
+            dialog.reject();
+        };
+        const auto ask = [&](const char* steps) { Answering.Expect(note), Run(steps); };
+        ask("menu:fo");
+        Run("file:good.pux menu:fo");
+        ask("menu:fo");
+        ask("menu:fe");
+        ask("menu:fo");
+        Run("menu:fn");
+        ask("menu:fo");
+        QCOMPARE(proposed, QStringList({"", "good.pux", "Pets", "Pets", ""}));
+        Answering.Shown();
     }
 
     /// What is typed, composed, dropped or pasted into the boxes; what undo brings back.

@@ -40,6 +40,7 @@ private slots:
                         return true;
             return false;
         };
+        QVERIFY(inked(picture.copy(416, 417, 9, 11)) && !inked(picture.copy(403, 417, 12, 11))); // the last one
         QVERIFY(inked(first) && !inked(picture.copy(0, 0, 40, 521)) && !inked(picture.copy(430, 0, 91, 521)));
         puzzle.showMinimized();
         puzzle.showNormal();

@@ -237,7 +237,8 @@ struct Model {
         QString state = QStringList{Caption, Title, Words.join(','),
                                     flag(Save, "S") + flag(SaveAs, "A") + flag(Create, "C") + flag(EditButtons, "E") +
                                         flag(EditMode, "M"),
-                                    QString::number(Words.size()) + flag(Words.size() >= 40, "!")}
+                                    QString::number(Words.size()) + flag(Words.size() >= 40, "!") +
+                                        flag(Selected >= 0, qPrintable(" @" + QString::number(Selected)))}
                             .join(" | ");
         if (!Word.isEmpty())
             state += " | " + Word;

@@ -24,8 +24,8 @@ protected:
     }
 
     /// All that the window shows, in a line: caption, big title, words, then S, A, C, E and M for what is
-    /// available: Save, Save As, Create Puzzle, the edit buttons, edit mode; the count, "!" when red; the
-    /// text of the word box; last the files of the folder that scripts write to.
+    /// available: Save, Save As, Create Puzzle, the edit buttons, edit mode; the count, "!" when red, "@" and the
+    /// position of the selected entry; the text of the word box; last the files of the folder that scripts write to.
     QString State()
     {
         QStringList words;
@@ -36,13 +36,15 @@ protected:
             words = {QString("%1 words").arg(words.size())};
         const bool edit = Control<QPushButton>("cmdEditWord").isVisibleTo(Window.get());
         const auto& count = Control<QLabel>("lblWordCount");
+        const int selected = Control<WordList>("lstWordlist").SelectedPosition();
         QString state =
             QStringList{Window->windowTitle(), Control<QLabel>("lblBigTitle").text(), words.join(','),
                         flag(Control<QAction>("mnuSave").isEnabled(), "S") +
                             flag(Control<QAction>("mnuSaveAs").isEnabled(), "A") +
                             flag(Control<QPushButton>("cmdCreatePuzzle").isEnabled(), "C") + flag(edit, "E") +
                             flag(Control<QPushButton>("cmdEnter").text() == "Enter (EditMode)", "M"),
-                        count.text() + flag(count.palette().color(QPalette::WindowText) == Qt::red, "!")}
+                        count.text() + flag(count.palette().color(QPalette::WindowText) == Qt::red, "!") +
+                            flag(selected >= 0, qPrintable(" @" + QString::number(selected)))}
                 .join(" | ");
         if (!Control<QLineEdit>("txtNewWords").text().isEmpty())
             state += " | " + Control<QLineEdit>("txtNewWords").text();
