@@ -59,43 +59,37 @@ class GeneratorTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void SizesTheGrid_data()
-    {
-        QTest::addColumn<int>("words");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<int>("rest"); // letters of one more, shorter word
-        QTest::addColumn<int>("size");
-        QTest::newRow("nothing") << 0 << 0 << 0 << 10;
-        QTest::newRow("57 letters") << 6 << 9 << 3 << 10;
-        QTest::newRow("58 letters") << 6 << 9 << 4 << 11;
-        QTest::newRow("69 letters") << 7 << 9 << 6 << 11;
-        QTest::newRow("70 letters") << 7 << 9 << 7 << 12;
-        QTest::newRow("448 letters, the last below 29") << 28 << 16 << 0 << 28;
-        QTest::newRow("480 letters") << 30 << 16 << 0 << 29;
-        QTest::newRow("481 letters") << 30 << 16 << 1 << 30;
-        QTest::newRow("800 letters") << 40 << 20 << 0 << 30;
-        QTest::newRow("a longest word of 9 leaves the size") << 1 << 9 << 0 << 10;
-        QTest::newRow("a longest word of 10 needs 12") << 1 << 10 << 0 << 12;
-        QTest::newRow("a longest word of 20 needs 22") << 11 << 20 << 0 << 22;
-    }
-
     void SizesTheGrid()
     {
-        QFETCH(int, words);
-        QFETCH(int, length);
-        QFETCH(int, rest);
-        QFETCH(int, size);
-        Words list(static_cast<std::size_t>(words), std::u16string(static_cast<std::size_t>(length), u'A'));
-        if (rest > 0)
-            list.emplace_back(static_cast<std::size_t>(rest), u'B');
-        PuzzleWorkspace workspace(FixedRandom(1));
-        workspace.LoadWordsArray(Words(40, u"ABCDEFGHIJKLMNOPQRST")); // must leave no trace
-        workspace.ClearWordsArray();
-        workspace.LoadWordsArray(list);
-        QCOMPARE(workspace.LetterCount, words * length + rest);
-        QCOMPARE(workspace.LongestWord, length);
-        workspace.SetPuzzleSize();
-        QCOMPARE(workspace.PuzzleSize, size);
+        struct Row {
+            std::size_t words, length, rest; // so many words of one length, and one more of the rest
+            int size;
+        };
+        for (const auto& [words, length, rest, size] :
+             std::initializer_list<Row>{{0, 0, 0, 10},
+                                        {6, 9, 3, 10},
+                                        {6, 9, 4, 11},
+                                        {7, 9, 6, 11}, // 57, 58 and 69 letters
+                                        {7, 9, 7, 12},
+                                        {28, 16, 0, 28},
+                                        {30, 16, 0, 29},
+                                        {30, 16, 1, 30},
+                                        {40, 20, 0, 30},
+                                        {1, 9, 0, 10},
+                                        {1, 10, 0, 12}, // a word needs a grid larger than itself
+                                        {11, 20, 0, 22}}) {
+            Words list(words, std::u16string(length, u'A'));
+            if (rest > 0)
+                list.emplace_back(rest, u'B');
+            PuzzleWorkspace workspace(FixedRandom(1));
+            workspace.LoadWordsArray(Words(40, u"ABCDEFGHIJKLMNOPQRST")); // must leave no trace
+            workspace.ClearWordsArray();
+            workspace.LoadWordsArray(list);
+            workspace.SetPuzzleSize();
+            QCOMPARE(workspace.LetterCount, static_cast<int>(words * length + rest));
+            QCOMPARE(workspace.LongestWord, static_cast<int>(length));
+            QCOMPARE(workspace.PuzzleSize, size);
+        }
     }
 
     void LoadsWordsAsCapitalsAndBlanks()
@@ -165,51 +159,38 @@ private slots:
                     }
     }
 
-    void FindsClashes_data()
-    {
-        QTest::addColumn<QString>("row"); // the grid's third row; '.' is empty
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<bool>("fits");
-        QTest::newRow("free") << ".........."
-                              << "CAT" << true;
-        QTest::newRow("one cell shared") << "..A......."
-                                         << "CAT" << true;
-        QTest::newRow("another letter") << "..B......."
-                                        << "CAT" << false;
-        QTest::newRow("two cells shared") << ".CA......."
-                                          << "CAT" << false;
-        QTest::newRow("on its own twin") << ".CAT......"
-                                         << "CAT" << false;
-        QTest::newRow("one letter on the same") << ".C........"
-                                                << "C" << true;
-        QTest::newRow("the cell after a blank's word") << "....B....."
-                                                       << "C AT" << true;
-        QTest::newRow("blanks take no cell") << "..B......."
-                                             << "C AT" << false;
-        QTest::newRow("all blanks") << ".ZZZ......"
-                                    << "   " << true;
-    }
-
     void FindsClashes()
     {
-        QFETCH(QString, row);
-        QFETCH(QString, word);
-        QFETCH(bool, fits);
-        PuzzleWorkspace workspace(FixedRandom(1));
-        workspace.LoadWordsArray(Words{word.toStdU16String()});
-        workspace.PuzzleSize = 10;
-        for (int column = 1; column <= 10; ++column)
-            if (row[column - 1] != '.')
-                workspace.PuzzleArray(3, column) = row[column - 1].toLatin1();
-        const auto before = workspace.PuzzleArray;
-        workspace.PseudoWord = 1;
-        workspace.PseudoRow = 3;
-        workspace.PseudoColumn = 2;
-        workspace.Direction = 3;
-        workspace.PseudoLoadPuzzleArray();
-        QCOMPARE(workspace.PseudoFits, fits);
-        QVERIFY(workspace.PuzzleArray == before);
-        QCOMPARE(workspace.CurrentRow, 0);
+        struct Row {
+            std::string row; // the grid's third, which the word enters at column 2; '.' is empty
+            std::u16string word;
+            bool fits;
+        };
+        for (const auto& [row, word, fits] :
+             std::initializer_list<Row>{{"..........", u"CAT", true},  // free
+                                        {"..A.......", u"CAT", true},  // one cell shared
+                                        {"..B.......", u"CAT", false}, // another letter
+                                        {".CA.......", u"CAT", false}, // two cells shared
+                                        {".CAT......", u"CAT", false}, // on its own twin
+                                        {".C........", u"C", true},
+                                        {"...B......", u"C AT", false}, // blanks take no cell: T comes here
+                                        {"....B.....", u"C AT", true},
+                                        {".ZZZ......", u"   ", true}}) {
+            PuzzleWorkspace workspace(FixedRandom(1));
+            workspace.LoadWordsArray(Words{word});
+            workspace.PuzzleSize = 10;
+            for (int column = 1; column <= 10; ++column)
+                if (const char cell = row.at(static_cast<std::size_t>(column - 1)); cell != '.')
+                    workspace.PuzzleArray(3, column) = cell;
+            const auto before = workspace.PuzzleArray;
+            workspace.PseudoWord = 1;
+            workspace.PseudoRow = 3;
+            workspace.PseudoColumn = 2;
+            workspace.Direction = 3;
+            workspace.PseudoLoadPuzzleArray();
+            QVERIFY2(workspace.PseudoFits == fits, row.c_str());
+            QVERIFY(workspace.PuzzleArray == before && workspace.CurrentRow == 0);
+        }
     }
 
     void DrawsInTheStatedOrder()

@@ -96,6 +96,7 @@ void Script::Pick(int position)
 /// Past the end of the window and the title box.
 void Script::TabRound()
 {
+    Activate(); // only the active window tells its controls of the focus
     Control<QWidget>("lstWordlist").setFocus(Qt::TabFocusReason);
     while (Window->focusWidget() != &Control<QWidget>("txtNewWords"))
         QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);
