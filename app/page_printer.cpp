@@ -10,10 +10,9 @@ constexpr int TwipsPerInch = 1440;
 constexpr double TwipsPerPoint = 20;
 constexpr double BoxPen = TwipsPerPoint / 2;
 
-/// The metrics of a font whose pixels are twips: the same whatever the printer's own resolution.
-QFontMetricsF MetricsOf(const QFont& font)
+QString ToQString(std::u16string_view text)
 {
-    return QFontMetricsF(font);
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
@@ -35,6 +34,7 @@ std::optional<double> PagePaper::PageWidth()
 std::optional<double> PagePaper::SetFont(const view::PageFont& font)
 {
     CurrentFont = QFont(QString::fromUtf16(font.name));
+    // A pixel of the font is a twip, so that its metrics are the same whatever the printer's own resolution.
     CurrentFont.setPixelSize(qRound(font.size * TwipsPerPoint));
     CurrentFont.setBold(font.bold);
     CurrentFont.setItalic(font.italic);
@@ -44,13 +44,12 @@ std::optional<double> PagePaper::SetFont(const view::PageFont& font)
 
 std::optional<double> PagePaper::Measure(std::u16string_view text)
 {
-    return MetricsOf(CurrentFont).horizontalAdvance(QString::fromUtf16(text.data(), static_cast<int>(text.size())));
+    return QFontMetricsF(CurrentFont).horizontalAdvance(ToQString(text));
 }
 
 bool PagePaper::Write(view::PagePoint position, std::u16string_view text)
 {
-    Texts.push_back(
-        {CurrentFont, {position.x, position.y}, QString::fromUtf16(text.data(), static_cast<int>(text.size()))});
+    Texts.push_back({CurrentFont, {position.x, position.y}, ToQString(text)});
     return true;
 }
 
@@ -79,6 +78,6 @@ void PagePaper::Paint(QPainter& painter) const
         painter.drawLine(line);
     for (const Text& text : Texts) {
         painter.setFont(text.font);
-        painter.drawText(text.topLeft + QPointF(0, MetricsOf(text.font).ascent()), text.text);
+        painter.drawText(text.topLeft + QPointF(0, QFontMetricsF(text.font).ascent()), text.text);
     }
 }
