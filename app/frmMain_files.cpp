@@ -1,19 +1,13 @@
+#include "app/file_bytes.h"
 #include "app/frmMain.h"
 #include "app/message_boxes.h"
 #include "app/widgets/puzzle_file_dialog.h"
 #include "document/puzzle_file.h"
 
-#include <QFileInfo>
-
 namespace {
 
 const QString PuzzleFilter = QStringLiteral("Glyphgrove Files (*.pux)");
 const QString AllFilter = QStringLiteral("All File (*.*)");
-
-std::filesystem::path PathOf(const QString& fileName)
-{
-    return QFileInfo(fileName).filesystemFilePath();
-}
 
 } // namespace
 
@@ -61,7 +55,8 @@ void frmMain::ToolbarSave()
 /// Writes the document to `fileName`. False when that failed: the document then still counts as it did.
 bool frmMain::SaveFile(const QString& fileName)
 {
-    if (!document::WritePuzzleFile(PathOf(fileName), txtTitle->text().toStdU16String(), lstWordlist->Words()))
+    const auto bytes = document::WritePuzzle(txtTitle->text().toStdU16String(), lstWordlist->Words());
+    if (!file_bytes::Save(fileName, bytes))
         return false;
     Saved = true;
     ShowTitleInCaption();
@@ -76,7 +71,7 @@ bool frmMain::LoadFile(const QString& fileName)
     cmdCreatePuzzle->setEnabled(true);
     mnuSaveAs->setEnabled(true);
     mnuSave->setEnabled(true);
-    const document::PuzzleFile file = document::ReadPuzzleFile(PathOf(fileName));
+    const document::PuzzleFile file = document::ReadPuzzle(file_bytes::Read(fileName, document::MaxFileBytes));
     if (file.marker == document::Marker::Older)
         message_boxes::Tell(this,
                             tr("This is a Glyphgrove 2.1 file. "

@@ -3,23 +3,19 @@
 #include "document/character_set.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace document {
 
 namespace {
 
 constexpr std::u16string_view OlderMarker = u"Glyphgrove2.1";
-// A full list makes less than 2 KiB. What takes more than this is no document, and a title of a gigabyte
-// would not only fill the memory but the windows too.
-constexpr std::size_t MaxBytes = 65'536;
 
 /// Takes the fields of a file one after another. A field ends at a comma or a line end (LF, CR LF or CR).
 class FieldReader {
 public:
-    explicit FieldReader(std::istream& in);
+    explicit FieldReader(std::string_view bytes) : Bytes(bytes.substr(0, MaxFileBytes)) {}
 
-    /// The next field's text, or nothing when the file ends or fails before the field does.
+    /// The next field's text, or nothing when the file ends before the field does.
     std::optional<std::u16string> Next();
 
 private:
@@ -29,17 +25,9 @@ private:
     bool AtFieldEnd() const;
     void SkipFieldEnd();
 
-    std::string Bytes;
-    bool Complete = false; ///< Bytes holds all of the file, so that its end is an end
+    std::string_view Bytes;
     std::size_t Position = 0;
 };
-
-FieldReader::FieldReader(std::istream& in) : Bytes(MaxBytes, '\0')
-{
-    in.read(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
-    Bytes.resize(static_cast<std::size_t>(in.gcount()));
-    Complete = in.eof() && !in.bad();
-}
 
 std::optional<std::u16string> FieldReader::Next()
 {
@@ -70,8 +58,8 @@ std::optional<std::u16string> FieldReader::Unquoted()
     std::u16string text;
     for (; !AtEnd() && !AtFieldEnd(); ++Position)
         text += DecodeCharacter(Bytes[Position]);
-    if (AtEnd() && !Complete)
-        return std::nullopt;
+    if (Position == MaxFileBytes)
+        return std::nullopt; // there may be more of it
     text.erase(text.find_last_not_of(u' ') + 1);
     return text;
 }
@@ -96,40 +84,19 @@ Marker MarkerOf(const std::optional<std::u16string>& field)
     return *field == OlderMarker ? Marker::Older : Marker::Unknown;
 }
 
-/// Devices and pipes can go on for ever or wait for ever, and a folder is no file: none of them is touched.
-bool IsRegularFile(const std::filesystem::path& path)
+void AppendRecord(std::string& file, std::u16string_view text)
 {
-    std::error_code failure;
-    return std::filesystem::is_regular_file(path, failure);
-}
-
-bool IsFreeName(const std::filesystem::path& path)
-{
-    std::error_code failure;
-    return std::filesystem::status(path, failure).type() == std::filesystem::file_type::not_found;
-}
-
-void WriteRecord(std::ostream& out, std::u16string_view text)
-{
-    out << '"';
+    file += '"';
     for (const char16_t character : text)
-        out << EncodeCharacter(character).value_or('?');
-    out << "\"\r\n";
+        file += EncodeCharacter(character).value_or('?');
+    file += "\"\r\n";
 }
 
 } // namespace
 
-PuzzleFile ReadPuzzleFile(const std::filesystem::path& path)
+PuzzleFile ReadPuzzle(std::string_view bytes)
 {
-    if (!IsRegularFile(path))
-        return {};
-    std::ifstream in(path, std::ios::binary);
-    return ReadPuzzle(in);
-}
-
-PuzzleFile ReadPuzzle(std::istream& in)
-{
-    FieldReader reader(in);
+    FieldReader reader(bytes);
     PuzzleFile file{MarkerOf(reader.Next()), {}, {}};
     if (file.marker != Marker::Current && file.marker != Marker::Older)
         return file;
@@ -143,24 +110,14 @@ PuzzleFile ReadPuzzle(std::istream& in)
     return file;
 }
 
-bool WritePuzzleFile(const std::filesystem::path& path, std::u16string_view title,
-                     std::span<const std::u16string> words)
+std::string WritePuzzle(std::u16string_view title, std::span<const std::u16string> words)
 {
-    if (!IsRegularFile(path) && !IsFreeName(path))
-        return false;
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    const bool written = WritePuzzle(out, title, words);
-    out.close();
-    return written && out.good();
-}
-
-bool WritePuzzle(std::ostream& out, std::u16string_view title, std::span<const std::u16string> words)
-{
-    WriteRecord(out, std::u16string(Version.begin(), Version.end()));
-    WriteRecord(out, title);
+    std::string file;
+    AppendRecord(file, std::u16string(Version.begin(), Version.end()));
+    AppendRecord(file, title);
     for (const std::u16string& word : words)
-        WriteRecord(out, word);
-    return out.good();
+        AppendRecord(file, word);
+    return file;
 }
 
 } // namespace document

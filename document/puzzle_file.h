@@ -1,7 +1,6 @@
 #pragma once
 
-#include <filesystem>
-#include <iosfwd>
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,9 +14,13 @@ inline constexpr std::string_view Version = "2.2";
 
 inline constexpr int MaxRecords = 101; ///< words taken from one file; what follows is not read
 
+/// Bytes of a file that are looked at. A full list makes less than 2 KiB; what takes more than this is no
+/// document, and a title of a gigabyte would not only fill the memory but the windows too.
+inline constexpr std::size_t MaxFileBytes = 65'536;
+
 /// What the first record of a file says of the rest.
 enum class Marker {
-    Unreadable, ///< there was none: no such file, no access, not a regular file, no end in sight
+    Unreadable, ///< there was none: an empty file, or a field without an end in sight
     Current,
     Older, ///< of release 2.1; the rest is laid out alike
     Unknown,
@@ -31,15 +34,11 @@ struct PuzzleFile {
     std::vector<std::u16string> words;
 };
 
-/// Reads what stands at `path`. A failure at any point ends the reading quietly with what was read before it,
-/// and so does a file that goes on for longer than any document could: time and memory are bounded.
-PuzzleFile ReadPuzzleFile(const std::filesystem::path& path);
-PuzzleFile ReadPuzzle(std::istream& in);
+/// Reads a file of which `bytes` are the first MaxFileBytes, or all where it is shorter. The reading ends quietly
+/// with the last field that is whole: a field that the bound cuts off, or a quoted one that the file does, is not.
+PuzzleFile ReadPuzzle(std::string_view bytes);
 
-/// Creates or empties the file at `path` and writes the document into it, a quoted record a line. False as
-/// soon as that fails; the file then keeps what was written before. Only regular files are written to.
-bool WritePuzzleFile(const std::filesystem::path& path, std::u16string_view title,
-                     std::span<const std::u16string> words);
-bool WritePuzzle(std::ostream& out, std::u16string_view title, std::span<const std::u16string> words);
+/// The document as a file: a quoted record a line. Characters that the file's character set lacks become "?".
+std::string WritePuzzle(std::u16string_view title, std::span<const std::u16string> words);
 
 } // namespace document

@@ -1,0 +1,139 @@
+#include "app/file_bytes.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+const std::string Long(100'000, 'n');
+
+QByteArray Contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "none";
+}
+
+void Create(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
+}
+
+} // namespace
+
+class FileBytesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        Disk = std::make_unique<QTemporaryDir>();
+        Folder = QDir(Disk->path());
+        File = Folder.filePath(QString::fromUtf8("\u00C4pfel & \u4E2D.pux"));
+        Create(File, "old");
+    }
+
+    void SavesAndReads()
+    {
+        QFile::setPermissions(File, QFile::ReadOwner | QFile::WriteOwner);
+        QVERIFY(file_bytes::Save(File, Long));
+        QCOMPARE(file_bytes::Read(File, 200'000), Long);
+        QCOMPARE(file_bytes::Read(File, 3), std::string("nnn"));
+        QVERIFY(file_bytes::Save(File, "short"));
+        QCOMPARE(Contents(File), "short");
+        QVERIFY(!(QFile::permissions(File) & QFile::ReadGroup));
+        QVERIFY(file_bytes::Save(Folder.filePath("new.pux"), "new"));
+        QCOMPARE(Folder.entryList(QDir::Files).size(), 2);
+    }
+
+    void TouchesRegularFilesOnly()
+    {
+        for (const QString& path : {Folder.path(), Folder.filePath("missing/x.pux"), QString("/dev/null"), QString()})
+            QVERIFY2(!file_bytes::Save(path, "new"), qPrintable(path));
+        for (const QString& path : {Folder.path(), Folder.filePath("missing.pux"), QString("/dev/zero"), QString()})
+            QCOMPARE(file_bytes::Read(path, 10), std::string());
+        QCOMPARE(Folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+    }
+
+#ifdef Q_OS_UNIX
+    void FollowsLinks()
+    {
+        const auto link = [this](const char* name, const QString& target) {
+            QVERIFY(QFile::link(target, Folder.filePath(name)));
+        };
+        link("file.lnk", File);
+        link("chain.lnk", "file.lnk");
+        link("nowhere.lnk", "new.pux");
+        link("circle.lnk", "circle.lnk");
+        QVERIFY(file_bytes::Save(Folder.filePath("chain.lnk"), "new"));
+        QCOMPARE(Contents(File), "new");
+        QVERIFY(file_bytes::Save(Folder.filePath("nowhere.lnk"), "new"));
+        QCOMPARE(Contents(Folder.filePath("new.pux")), "new");
+        QVERIFY(!file_bytes::Save(Folder.filePath("circle.lnk"), "new"));
+        for (const char* name : {"file.lnk", "chain.lnk", "nowhere.lnk", "circle.lnk"})
+            QVERIFY(QFileInfo(Folder.filePath(name)).isSymLink());
+    }
+
+    /// A disk without room for the new contents, in a folder that takes new files and in one that does not.
+    void LeavesTheEarlierFileWhereThereIsNoRoom()
+    {
+        for (const mode_t folder : {0777, 0555}) {
+            Protect(folder, 0666);
+            rlimit room{};
+            getrlimit(RLIMIT_FSIZE, &room);
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit tight{10, room.rlim_max};
+            setrlimit(RLIMIT_FSIZE, &tight);
+            const bool saved = SaveAsUser(File, Long);
+            setrlimit(RLIMIT_FSIZE, &room);
+            QVERIFY(!saved);
+            QCOMPARE(Contents(File), "old");
+            QCOMPARE(Folder.entryList(QDir::Files).size(), 1);
+        }
+    }
+
+    void KeepsToWhatMayBeWritten()
+    {
+        Protect(0555, 0666);
+        QVERIFY(SaveAsUser(File, "newer") && SaveAsUser(File, "new")); // in place, and no rest of the longer one
+        QVERIFY(!SaveAsUser(Folder.filePath("new.pux"), "new"));
+        QCOMPARE(Contents(File), "new");
+        Protect(0777, 0444);
+        QVERIFY(!SaveAsUser(File, "newer"));
+        QCOMPARE(Contents(File), "new");
+    }
+
+private:
+    void Protect(mode_t folder, mode_t file)
+    {
+        QVERIFY(chmod(qPrintable(Folder.path()), folder) == 0 && chmod(qPrintable(File), file) == 0);
+    }
+
+    /// Saves as a user to whom permissions apply, also where root runs the test.
+    static bool SaveAsUser(const QString& path, const std::string& bytes)
+    {
+        constexpr uid_t Nobody = 65534;
+        const bool root = geteuid() == 0 && setresuid(Nobody, Nobody, 0) == 0;
+        const bool saved = file_bytes::Save(path, bytes);
+        return (!root || setresuid(0, 0, 0) == 0) && saved;
+    }
+#else
+private:
+#endif
+    std::unique_ptr<QTemporaryDir> Disk;
+    QDir Folder;
+    QString File;
+};
+
+QTEST_APPLESS_MAIN(FileBytesTest)
+#include "file_bytes_test.moc"
