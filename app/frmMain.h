@@ -8,8 +8,9 @@
 #include <QAction>
 #include <QLabel>
 #include <QMainWindow>
-#include <QPointer>
 #include <QPushButton>
+
+#include <memory>
 
 /// The main window: home of the document and owner of everything the program keeps while it runs. Its title
 /// box and word list hold the document, its fields the document's and the editor's state, its workspace the
@@ -21,8 +22,9 @@ public:
     explicit frmMain(generator::RandomSource random = generator::RandomSource());
     ~frmMain() override;
 
-    /// The desktop's session ends: closes the windows. False when the user wants to stay.
-    bool EndSession();
+    /// Offers to save unsaved changes before the window closes, or the desktop's session ends. False when the user
+    /// wants to stay.
+    bool Form_QueryUnload();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -66,7 +68,6 @@ private:
     void ResetAll(bool forNew);
     void mnuNewPuzzle_Click();
     void mnuExit_Click();
-    bool Form_QueryUnload();
     void Form_Unload();
     void Terminate();
     void txtTitle_Change();
@@ -87,6 +88,7 @@ private:
     // The puzzle (frmMain_puzzle.cpp).
     void cmdCreatePuzzle_Click();
     void FillPuzzleWindow();
+    void ComeBack();
     void DrawToPictureBox();
     void Print_Puzzle();
 
@@ -102,7 +104,8 @@ private:
     QLabel* lblWordCount = nullptr;
     QAction* mnuSave = nullptr;
     QAction* mnuSaveAs = nullptr;
-    QPointer<frmPuzzle> Puzzle; ///< while a puzzle is shown
+    std::unique_ptr<frmPuzzle> Puzzle; ///< the last puzzle, for as long as dialogs may stand above it
+    QWidget* FocusBeforePuzzle = nullptr;
 
     bool Saved = true;       ///< no unsaved changes
     bool TitleSet = false;   ///< the title box holds a title that a click must not clear

@@ -1,4 +1,5 @@
 #include "app/frmMain.h"
+#include "app/looks.h"
 #include "app/message_boxes.h"
 #include "app/program.h"
 
@@ -33,8 +34,9 @@ void frmMain::ResetAll(bool forNew)
     ClearTextbox();
     txtTitle->setText(tr("New Puzzle"));
     lstWordlist->Clear();
+    EditIndex = -1; // an edit under way was of a word that is gone
     WordCounter();
-    setWindowTitle(tr("Glyphgrove-New Puzzle"));
+    looks::SetCaption(*this, tr("Glyphgrove-New Puzzle"));
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     Saved = true;
@@ -59,15 +61,9 @@ void frmMain::mnuExit_Click()
 /// stay open, and the program with it.
 void frmMain::Terminate()
 {
-    if (Puzzle)
+    if (Puzzle && Puzzle->isVisible())
         Puzzle->close();
     close();
-}
-
-bool frmMain::EndSession()
-{
-    Terminate();
-    return isHidden();
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
@@ -132,5 +128,5 @@ void frmMain::LeaveTitleBox()
 
 void frmMain::ShowTitleInCaption()
 {
-    setWindowTitle(program::Name + '-' + txtTitle->text());
+    looks::SetCaption(*this, program::Name + '-' + txtTitle->text());
 }

@@ -1,4 +1,5 @@
 #include "app/frmMain.h"
+#include "app/looks.h"
 #include "app/message_boxes.h"
 #include "app/page_printer.h"
 #include "app/print_dialog.h"
@@ -9,6 +10,8 @@
 void frmMain::cmdCreatePuzzle_Click()
 {
     CheckForSave(); // whatever the answer
+    if (isHidden())
+        return; // the session ended meanwhile
     const auto words = lstWordlist->Words();
     if (const auto obstacle = wordlist::ObstacleToPuzzle(words)) {
         message_boxes::Tell(this, QString::fromStdU16String(*obstacle));
@@ -17,23 +20,29 @@ void frmMain::cmdCreatePuzzle_Click()
     FillPuzzleWindow();
     Workspace.LoadWordsArray(words);
     Workspace.LoadPuzzleArray();
-    QWidget* focused = focusWidget();
+    FocusBeforePuzzle = focusWidget();
     hide();
-    if (focused != nullptr)
-        focused->setFocus(); // hiding passes the focus on; it is to be where it was when the window comes back
     DrawToPictureBox();
     Puzzle->show();
 }
 
 void frmMain::FillPuzzleWindow()
 {
-    Puzzle = new frmPuzzle;
-    connect(Puzzle, &frmPuzzle::PrintRequested, this, &frmMain::Print_Puzzle);
-    connect(Puzzle, &frmPuzzle::Unloaded, this, &QWidget::show);
+    Puzzle = std::make_unique<frmPuzzle>();
+    connect(Puzzle.get(), &frmPuzzle::PrintRequested, this, &frmMain::Print_Puzzle);
+    connect(Puzzle.get(), &frmPuzzle::Unloaded, this, &frmMain::ComeBack);
     for (int i = 0; i < lstWordlist->count(); ++i)
         Puzzle->SetWord(i, lstWordlist->item(i)->text());
     Puzzle->SetTitle(lblBigTitle->text());
-    Puzzle->setWindowTitle(program::Name + '-' + lblBigTitle->text());
+    looks::SetCaption(*Puzzle, program::Name + '-' + lblBigTitle->text());
+}
+
+/// The puzzle window has closed. The focus is to be where it was: hiding had passed it on.
+void frmMain::ComeBack()
+{
+    show();
+    if (FocusBeforePuzzle != nullptr)
+        FocusBeforePuzzle->setFocus();
 }
 
 void frmMain::DrawToPictureBox()

@@ -63,6 +63,8 @@ void frmMain::ConfirmEdit()
     LeaveEditMode();
     if (gone) {
         AddWord();
+        if (!wordlist::ObstacleToPuzzle(lstWordlist->Words()))
+            cmdCreatePuzzle->setEnabled(true); // whether or not it came to adding
         return;
     }
     const QString word = txtNewWords->text();

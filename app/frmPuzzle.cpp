@@ -23,7 +23,6 @@ frmPuzzle::frmPuzzle()
     setObjectName(QStringLiteral("frmPuzzle"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
-    setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false); // the main window, hidden meanwhile, comes back
     setPalette(looks::LightYellow());
     BuildSurface();

@@ -8,8 +8,7 @@
 #include <array>
 
 /// The puzzle window: one generated puzzle beside its word list. It holds no data of its own; the main window
-/// fills its labels and draws its grid, and is told what the user wants of it. It is built for one puzzle and
-/// deletes itself when it closes.
+/// fills its labels and draws its grid, and is told what the user wants of it. It is built for one puzzle.
 class frmPuzzle : public QWidget {
     Q_OBJECT
 

@@ -22,6 +22,11 @@ void FixSize(QWidget& widget, int width, int height)
     widget.setFixedSize(qRound(ToPixels(widget, width)), qRound(ToPixels(widget, height)));
 }
 
+void SetCaption(QWidget& window, QString text)
+{
+    window.setWindowTitle(text.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+}
+
 void Centre(QWidget& window)
 {
     QRect frame = window.frameGeometry();

@@ -21,6 +21,9 @@ void Place(QWidget& widget, int x, int y, int width, int height);
 /// Gives `widget` a fixed size, in twips.
 void FixSize(QWidget& widget, int width, int height);
 
+/// Sets the caption of `window` to `text` as it stands: "[*]" is a placeholder to the toolkit.
+void SetCaption(QWidget& window, QString text);
+
 /// Puts `window` in the middle of its screen.
 void Centre(QWidget& window);
 

@@ -1,7 +1,7 @@
 #include "app/frmMain.h"
 #include "app/pictures.h"
 #include "app/program.h"
-#include "app/throwaway_settings.h"
+#include "app/settings.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -12,14 +12,15 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(program::Name);
     QApplication::setWindowIcon(pictures::OfProgram());
 
-    const ThrowawaySettings settings;
+    KeepNoSettings();
 
     frmMain window;
+    // A session asks this at its end and whenever it wants everything saved; only its end closes the windows.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
         if (!session.allowsInteraction())
             return;
-        if (!window.EndSession())
+        if (!window.Form_QueryUnload())
             session.cancel();
         session.release();
     });

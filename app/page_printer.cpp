@@ -1,8 +1,12 @@
 #include "app/page_printer.h"
 
+#include "app/file_bytes.h"
+
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPdfWriter>
 
 namespace {
 
@@ -27,8 +31,12 @@ PagePaper::PagePaper(const QString& name) : Device(QPrinter::HighResolution)
 
 std::optional<double> PagePaper::PageWidth()
 {
-    const double points = Device.pageLayout().fullRect(QPageLayout::Point).width();
-    return points > 0 ? std::optional(points * TwipsPerPoint) : std::nullopt;
+    Device.setPageOrientation(QPageLayout::Portrait); // whatever was chosen
+    const QSizeF sheet = Device.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
+    if (sheet.isEmpty())
+        return std::nullopt;
+    Scale = view::ScaleForSheet(sheet.width(), sheet.height());
+    return sheet.width() / Scale;
 }
 
 std::optional<double> PagePaper::SetFont(const view::PageFont& font)
@@ -61,18 +69,32 @@ bool PagePaper::DrawLine(view::PagePoint from, view::PagePoint to)
 
 bool PagePaper::EndDocument()
 {
+    if (Device.outputFormat() == QPrinter::PdfFormat)
+        return WritePdf();
     Device.setResolution(TwipsPerInch); // the dialog or another printer may have set its own
-    QPainter painter;
-    if (!painter.begin(&Device))
-        return false;
-    const double unitsPerTwip = static_cast<double>(Device.logicalDpiX()) / TwipsPerInch;
-    painter.scale(unitsPerTwip, unitsPerTwip);
-    Paint(painter);
-    return painter.end() && Device.printerState() != QPrinter::Error;
+    return PaintOn(Device) && Device.printerState() != QPrinter::Error;
 }
 
-void PagePaper::Paint(QPainter& painter) const
+/// A file that finds no room leaves nothing behind, and an earlier one of its name as it was.
+bool PagePaper::WritePdf() const
 {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&file);
+    writer.setPageLayout(Device.pageLayout());
+    writer.setTitle(Device.docName());
+    writer.setCreator(Device.creator());
+    writer.setResolution(TwipsPerInch);
+    return PaintOn(writer) && file_bytes::Save(Device.outputFileName(), file.data().toStdString());
+}
+
+bool PagePaper::PaintOn(QPaintDevice& device) const
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    const double unitsPerTwip = Scale * device.logicalDpiX() / TwipsPerInch;
+    painter.scale(unitsPerTwip, unitsPerTwip);
     painter.setPen(QPen(Qt::black, BoxPen, Qt::SolidLine, Qt::SquareCap));
     for (const QLineF& line : Lines)
         painter.drawLine(line);
@@ -80,4 +102,5 @@ void PagePaper::Paint(QPainter& painter) const
         painter.setFont(text.font);
         painter.drawText(text.topLeft + QPointF(0, QFontMetricsF(text.font).ascent()), text.text);
     }
+    return painter.end();
 }

@@ -33,9 +33,11 @@ private:
         QString text;
     };
 
-    void Paint(QPainter& painter) const;
+    bool WritePdf() const;
+    bool PaintOn(QPaintDevice& device) const;
 
     QPrinter Device;
+    double Scale = 1; ///< of the page on its sheet
     QFont CurrentFont;
     std::vector<Text> Texts;
     std::vector<QLineF> Lines;

@@ -35,15 +35,12 @@ std::optional<char> EncodeCharacter(char16_t character)
     return latin1 ? std::optional(static_cast<char>(character)) : std::nullopt;
 }
 
-std::u16string FilterTitle(std::u16string_view inserted, bool /*boxEmpty*/)
+std::u16string FilterTitle(std::u16string_view inserted, bool /*atFront*/)
 {
     std::u16string title;
-    for (const char16_t character : inserted) {
-        if (character == u'\n' || character == u'\r' || character == u'\t' || character == u'\u2028')
-            title += u' ';
-        else if (!IsControl(character) && EncodeCharacter(character))
+    for (const char16_t character : inserted)
+        if (!IsControl(character) && EncodeCharacter(character))
             title += character;
-    }
     return title;
 }
 

@@ -14,8 +14,7 @@ char16_t DecodeCharacter(char byte);
 /// The byte of `character`, or nothing when the character set lacks it.
 std::optional<char> EncodeCharacter(char16_t character);
 
-/// The title box: printable characters that a puzzle file can hold. Line ends and tabs, as only a paste
-/// brings them, become blanks; everything else is dropped without a word.
-std::u16string FilterTitle(std::u16string_view inserted, bool boxEmpty);
+/// The title box: printable characters that a puzzle file can hold; everything else is dropped without a word.
+std::u16string FilterTitle(std::u16string_view inserted, bool atFront);
 
 } // namespace document

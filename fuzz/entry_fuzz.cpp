@@ -1,12 +1,13 @@
 #include "document/character_set.h"
 #include "wordlist/entry.h"
-#include "wordlist/limits.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 
-/// Whatever a box showed and whatever the user did to it, the cursor stays inside and the limit holds for
-/// what was put in.
+/// Whatever a box showed and whatever the user did to it, the change stays inside and the limit holds for what
+/// was put in.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     if (size < 2)
@@ -16,8 +17,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::u16string before = text.substr(0, split);
     const std::u16string after = text.substr(split);
     for (const auto filter : {wordlist::FilterWord, document::FilterTitle}) {
-        const auto edit = wordlist::AdmitEdit(before, {after, data[1] % (after.size() + 1)}, {filter, 20});
-        if (edit.cursor > edit.text.size() || edit.text.size() > std::max<std::size_t>(20, before.size()))
+        const auto change = wordlist::AdmitEdit(before, {after, data[1] % 2 == 0}, {filter, 20});
+        if (!change)
+            continue;
+        std::u16string edited = before;
+        edited.replace(change->position, change->removed, change->inserted);
+        if (change->position + change->removed > before.size() ||
+            edited.size() > std::max<std::size_t>(20, before.size()))
             std::abort();
     }
     return 0;

@@ -43,9 +43,19 @@ private slots:
         row("word:CAT pick:0 delete word:DOG", "G - NP | NP | DOG | AC | 1");
         row("word:CAT word:DOG pick:0 tool:Delete edit word:X", "G - NP | NP | CATX,DOG | AC | 2");
         row("word:CAT pick:0 edit no menu:fn word:X", "G-NP | NP | X | AC | 1", "save?");
-        row("word:CAT pick:0 edit no file:good.pux menu:fo tabs word:X", "G-Pets | Pets | X,CAT | SAC | 2",
+        row("word:CAT pick:0 edit no file:good.pux menu:fo tabs word:X", "G-Pets | Pets | DOG,CAT,X | SAC | 3",
             "save? file");
+        row("word:CAT pick:0 edit no menu:fn word:B word:A pick:0 edit no menu:fn file:good.pux menu:fo no word:CAT",
+            "G-Pets | Pets | DOG,CAT | SAC | 2", "save? save? file again?");
+        row("word:CAT pick:0 no file:full.pux menu:fo edit", "G-F | F | 40 words | SAM | 40! | CAT", "save? file");
+        row("word:CAT pick:0 no file:full.pux menu:fo edit ok enter", "G-F | F | 40 words | SAC | 40!",
+            "save? file limit");
+        row("word:CAT word:DOG pick:0 tool:Delete edit wipe no word:DOG", "G - NP | NP | DOG | AC | 1", "again?");
+        row("type:a_ home del enter", "G - NP | NP |   | AC | 1"); // a blank alone is a word that hides nothing
+        row("type:a_ home del enter no create back", "G - NP | NP |   | AC | 1", "save?");
         // The title.
+        row("clicktitle title:A[*]B[*][*] leave word:X file:new.pux menu:fe",
+            "G-A[*]B[*][*] | A[*]B[*][*] | X | AC | 1 | new.pux=2.2/A[*]B[*][*]/X/", "file");
         row("title:_s leave menu:fn", "G-NP | NP |  |  | 0");
         row("clicktitle title:Pets leave no menu:fn", "G-NP | NP |  |  | 0", "save?");
         row("clicktitle leave clicktitle", "G - NP |  |  |  | 0");
@@ -122,6 +132,48 @@ private slots:
         Answering.Shown();
     }
 
+    /// The left button and the keyboard choose, an entry that is selected already too; other buttons do nothing.
+    void ChoosesEntries()
+    {
+        Run("word:ant word:cat word:dog pick:0");
+        auto& list = Control<WordList>("lstWordlist");
+        int chosen = 0;
+        connect(&list, &WordList::Chosen, &list, [&chosen] { ++chosen; });
+        for (const auto button : {Qt::RightButton, Qt::MiddleButton})
+            QTest::mouseClick(list.viewport(), button, {}, list.visualItemRect(list.item(1)).center());
+        QCOMPARE(list.SelectedPosition(), 0);
+        QCOMPARE(chosen, 0);
+        struct Row {
+            int key, selected, chosen;
+        };
+        for (const auto& [key, selected, total] : std::initializer_list<Row>{{Qt::Key_Space, 0, 1},
+                                                                             {Qt::Key_A, 0, 2},
+                                                                             {Qt::Key_Z, 0, 2},
+                                                                             {Qt::Key_Down, 1, 3},
+                                                                             {Qt::Key_End, 2, 4},
+                                                                             {Qt::Key_Home, 0, 5},
+                                                                             {Qt::Key_D, 2, 6}}) {
+            QTest::keyClick(&list, static_cast<Qt::Key>(key));
+            QCOMPARE(list.SelectedPosition(), selected);
+            QCOMPARE(chosen, total);
+            QTest::qWait(QApplication::keyboardInputInterval() + 10); // a new search
+        }
+    }
+
+    /// A click of any button counts in the title box, before it pastes.
+    void TakesEveryClickInTheTitle()
+    {
+        auto& title = Control<QLineEdit>("txtTitle");
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), title.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&title, &menu);
+        QCOMPARE(title.text(), QString());
+        delete QApplication::activePopupWidget();
+        title.setText("Pets");
+        QTest::mouseClick(&title, Qt::MiddleButton);
+        Run("no menu:fn");
+        QCOMPARE(Boxes(), "save?");
+    }
+
     /// What is typed, composed, dropped or pasted into the boxes; what undo brings back.
     void FiltersWhatIsEntered()
     {
@@ -137,9 +189,18 @@ private slots:
         QTest::keyClick(&word, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(word.text(), "abc def");
         word.paste();
-        QCOMPARE(word.text(), "abc def  pigs abcdef");
+        QTRY_COMPARE(word.text(), "abc def  pigs abcdef");
         QTest::keyClicks(&word, "x");
         QCOMPARE(word.text(), "abc def  pigs abcdef");
+        word.undo(); // the paste alone
+        QCOMPARE(word.text(), "abc def");
+        word.setSelection(4, 3);
+        QTest::keyClicks(&word, "1-");
+        QVERIFY(word.isRedoAvailable());
+        QApplication::clipboard()->setText("123");
+        word.paste();
+        QCoreApplication::processEvents();
+        QCOMPARE(word.text() + word.selectedText(), "abc defdef");
         title.setFocus();
         title.selectAll();
         QApplication::clipboard()->setText("Caf\u00E9 \u20AC\u4E2D \u201CA\u201D\nB, far longer than thirty");
@@ -151,6 +212,9 @@ private slots:
         QCOMPARE(title.text(), "A title of over thirty character");
         title.undo();
         QCOMPARE(title.text(), "A title of over thirty characters");
+        title.setText(QString(60'000, 'x'));
+        QTest::keyClick(&title, Qt::Key_Backspace);
+        QCOMPARE(title.text().size(), 59'999);
     }
 };
 

@@ -116,14 +116,40 @@ private slots:
         Answering.Shown();
     }
 
-    void AsksWhenTheSessionEnds()
+    /// The desktop's session ends while a box or a dialog is open, with nothing or something unsaved.
+    void SurvivesTheEndOfTheSession_data()
     {
-        Run("word:CAT no create clicktitle cancel");
-        QVERIFY(!Window->EndSession()); // only the puzzle window has closed
-        QVERIFY(Window->isVisible() && ShownWindow("frmPuzzle") == nullptr);
-        Step("no");
-        QVERIFY(Window->EndSession());
-        QCOMPARE(Boxes(), "save? save? save?");
+        QTest::addColumn<QString>("script"); // "end" is the answer to the dialog that comes then
+        QTest::addColumn<QString>("boxes");
+        QTest::addColumn<bool>("ended");
+        const auto row = [](const char* script, const char* boxes, bool ended) {
+            QTest::newRow(script) << script << boxes << ended;
+        };
+        row("word:CAT no create end print", "save? PrinterDialog", true);
+        row("word:CAT no create pdf:page.pdf print pdf:page.pdf end print",
+            "save? PrinterDialog PrinterDialog replace?", true);
+        row("word:CAT cancel create end cancel print", "save? PrinterDialog save?", false);
+        row("word:CAT cancel create end no print", "save? PrinterDialog save?", true);
+        row("word:CAT end no create", "save? save?", true);
+        row("word:CAT end cancel create back", "save? save?", false);
+        row("word:CAT end no menu:fe", "file save?", true);
+        row("word:CAT end no word:CAT", "again? save?", true);
+        row("end menu:ha", "frmAbout", true);
+    }
+
+    void SurvivesTheEndOfTheSession()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, boxes);
+        QFETCH(bool, ended);
+        QApplication::setQuitOnLastWindowClosed(false);
+        for (const QString& step : script.split(' '))
+            if (step == "end")
+                Answering.Expect([](QDialog& /*dialog*/) { QApplication::closeAllWindows(); });
+            else
+                Step(step);
+        QCOMPARE(Boxes(), boxes);
+        QVERIFY(Window->isVisible() == !ended && ShownWindow("frmPuzzle") == nullptr);
     }
 };
 

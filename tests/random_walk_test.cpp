@@ -49,8 +49,13 @@ struct Model {
     {
         if (Word.isEmpty())
             return EditMode ? void() : LeaveTitle();
-        if (!std::exchange(EditMode, false) || EditIndex < 0 || EditIndex >= Words.size())
+        if (!std::exchange(EditMode, false))
             return Add();
+        if (EditIndex < 0 || EditIndex >= Words.size()) {
+            Add();
+            Create = Create || FitForPuzzle();
+            return;
+        }
         Words[EditIndex] = Word;
         Selected = Selected == EditIndex ? -1 : Selected;
         ShowChange();
@@ -110,7 +115,7 @@ struct Model {
         Title = "New Puzzle";
         Caption = "Glyphgrove-New Puzzle";
         Words.clear();
-        Selected = -1;
+        Selected = EditIndex = -1;
         Save = SaveAs = false;
         Saved = true;
     }
@@ -156,15 +161,19 @@ struct Model {
             return;
         Write(DocFileName = path);
     }
+    bool FitForPuzzle() const
+    {
+        return Words.size() <= 40 &&
+               std::ranges::all_of(Words, [](const QString& word) { return word.size() <= 20; });
+    }
     void CreatePuzzle()
     {
         LeaveTitle();
         CheckForSave();
-        const auto unfit = [](const QString& word) { return word.size() > 20 || word.trimmed().isEmpty(); };
-        if (Words.size() > 40 || std::ranges::any_of(Words, unfit))
-            Ask("obstacle", {"ok", "escape"});
-        else
+        if (FitForPuzzle())
             Puzzle = true;
+        else
+            Ask("obstacle", {"ok", "escape"});
     }
     void ToolbarSave()
     {

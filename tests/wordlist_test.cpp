@@ -14,68 +14,48 @@ private slots:
     void AdmitsEdits_data()
     {
         QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("wanted"); // '|' is the cursor
-        QTest::addColumn<QString>("admitted");
-        QTest::newRow("letter") << "CA"
-                                << "CAt|"
-                                << "CAt|";
-        QTest::newRow("digit") << "CA"
-                               << "CA1|"
-                               << "CA|";
-        QTest::newRow("accent") << "CA"
-                                << "C\u00C9|A"
-                                << "C|A";
-        QTest::newRow("hyphen in the middle") << "CAT"
-                                              << "C-|AT"
-                                              << "C|AT";
-        QTest::newRow("blank at the front of a word") << "CAT"
-                                                      << " |CAT"
-                                                      << " |CAT";
-        QTest::newRow("blank in the empty box") << ""
-                                                << " |"
-                                                << "|";
-        QTest::newRow("blank over all that was selected") << "CAT"
-                                                          << " |"
-                                                          << " |";
-        QTest::newRow("paste of a phrase") << ""
-                                           << "  3 ice-creams!|"
-                                           << "icecreams|";
-        QTest::newRow("paste over all") << "CAT"
-                                        << " DOG|"
-                                        << "DOG|";
-        QTest::newRow("paste with a line end") << ""
-                                               << "CAT\nDOG|"
-                                               << "CATDOG|";
-        QTest::newRow("paste cut at 20") << "ABCDEFGHIJ"
-                                         << "ABCDEKLMNOPQRSTUV|FGHIJ"
-                                         << "ABCDEKLMNOPQRST|FGHIJ";
-        QTest::newRow("21st letter") << "ABCDEFGHIJKLMNOPQRST"
-                                     << "ABCDEFGHIJKLMNOPQRSTU|"
-                                     << "ABCDEFGHIJKLMNOPQRST|";
-        QTest::newRow("too long from a file, a letter more") << "ABCDEFGHIJKLMNOPQRSTUVW"
-                                                             << "AxBCDEFGHIJKLMNOPQRSTUVW|"
-                                                             << "ABCDEFGHIJKLMNOPQRSTUVW|";
-        QTest::newRow("too long from a file, a letter less") << "ABCDEFGHIJKLMNOPQRSTUV-1"
-                                                             << "ABCDEFGHIJKLMNOPQRSTU|-1"
-                                                             << "ABCDEFGHIJKLMNOPQRSTU|-1";
-        QTest::newRow("equal letters") << "AAA"
-                                       << "AA|AA"
-                                       << "AA|AA";
-        QTest::newRow("cleared") << "CAT"
-                                 << "|"
-                                 << "|";
+        QTest::addColumn<QString>("wanted");
+        QTest::addColumn<bool>("typed");
+        QTest::addColumn<QString>("admitted"); // "-" when all of it is discarded
+        const auto row = [](const char* name, const char* before, const char* wanted, bool typed,
+                            const char* admitted) { QTest::newRow(name) << before << wanted << typed << admitted; };
+        row("letter", "CA", "CAt", true, "CAt");
+        row("digit", "CA", "CA1", true, "-");
+        row("digit over a selection", "CAT", "C1", true, "-");
+        row("accent", "CA", "C\u00C9", true, "-");
+        row("hyphen in the middle", "CAT", "C-AT", true, "-");
+        row("blank at the front of a word", "CAT", " CAT", true, " CAT");
+        row("blank in the empty box", "", " ", true, "-");
+        row("blank over all that was selected", "CAT", " ", true, " ");
+        row("paste of a phrase", "", "  3 ice-creams!", false, "icecreams");
+        row("paste over all", "CAT", " DOG", false, "DOG");
+        row("paste of all over all", "CAT", " CAT", false, "-");
+        row("paste over the front", "CAT FOOD", " DOG FOOD", false, "DOG FOOD");
+        row("paste in front", "CAT", "  DOGCAT", false, "DOGCAT");
+        row("paste at the end", "ICE", "ICE CREAM 2", false, "ICE CREAM ");
+        row("paste that leaves nothing", "CAT", "C123", false, "-");
+        row("paste with line ends", "", "CAT\nDOG\tFOX\u2028", false, "CAT DOG FOX ");
+        row("paste cut at 20", "ABCDEFGHIJ", "ABCDEKLMNOPQRSTUVFGHIJ", false, "ABCDEKLMNOPQRSTFGHIJ");
+        row("21st letter", "ABCDEFGHIJKLMNOPQRST", "ABCDEFGHIJKLMNOPQRSTU", true, "-");
+        row("too long from a file, a letter more", "ABCDEFGHIJKLMNOPQRSTUVW", "AxBCDEFGHIJKLMNOPQRSTUVW", true, "-");
+        row("too long from a file, a letter less", "ABCDEFGHIJKLMNOPQRSTUV-1", "ABCDEFGHIJKLMNOPQRSTU-1", true,
+            "ABCDEFGHIJKLMNOPQRSTU-1");
+        row("equal letters", "AAA", "AAAA", true, "AAAA");
+        row("cleared", "CAT", "", true, "");
     }
 
     void AdmitsEdits()
     {
         QFETCH(QString, before);
         QFETCH(QString, wanted);
+        QFETCH(bool, typed);
         QFETCH(QString, admitted);
-        const auto cursor = static_cast<std::size_t>(wanted.indexOf('|'));
-        const wordlist::Edit edit{wanted.remove('|').toStdU16String(), cursor};
-        const auto result = wordlist::AdmitEdit(before.toStdU16String(), edit, {wordlist::FilterWord, 20});
-        auto shown = QString::fromStdU16String(result.text);
-        QCOMPARE(shown.insert(static_cast<int>(result.cursor), '|'), admitted);
+        const auto change = wordlist::AdmitEdit(before.toStdU16String(), {wanted.toStdU16String(), typed},
+                                                {wordlist::FilterWord, 20});
+        auto after = before.toStdU16String();
+        if (change)
+            after.replace(change->position, change->removed, change->inserted);
+        QCOMPARE(change ? QString::fromStdU16String(after) : "-", admitted);
     }
 
     void InsertsInAlphabeticalOrder()
@@ -111,7 +91,7 @@ private slots:
         const std::u16string twenty(20, u'A');
         QVERIFY(!ObstacleToPuzzle({}));
         QVERIFY(!ObstacleToPuzzle(Words(40, twenty)));
-        QVERIFY(!ObstacleToPuzzle(Words{u"\u00DF", u"A 1"}));
+        QVERIFY(!ObstacleToPuzzle(Words{u"\u00DF", u"A 1", u"  "}));
         const auto tells = [](const Words& words, const QString& text) {
             const auto obstacle = ObstacleToPuzzle(words);
             return obstacle && QString::fromStdU16String(*obstacle).contains(text);

@@ -1,6 +1,6 @@
 #include "tools/driving.h"
 
-#include "app/throwaway_settings.h"
+#include "app/settings.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -25,7 +25,7 @@ void PrepareApplication()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QStandardPaths::setTestModeEnabled(true);
-    static const ThrowawaySettings settings;
+    KeepNoSettings();
 }
 
 QWidget* ShownWindow(const QString& name)

@@ -39,6 +39,8 @@ void Script::Step(const QString& step)
         {"type", [&] { Type("txtNewWords", about); }},
         {"enter", [&] { key("txtNewWords", Qt::Key_Return); }},
         {"wipe", [&] { Control<QLineEdit>("txtNewWords").selectAll(), key("txtNewWords", Qt::Key_Delete); }},
+        {"home", [&] { key("txtNewWords", Qt::Key_Home); }},
+        {"del", [&] { key("txtNewWords", Qt::Key_Delete); }},
         {"word", [&] { Type("txtNewWords", about), key("txtNewWords", Qt::Key_Return); }},
         {"fill", [&] { Fill(about.toInt()); }},
         {"title", [&] { Type("txtTitle", about); }},

@@ -12,7 +12,8 @@ namespace driving {
 /// Works the program by scripts: what a person does, step by step, with the real controls, menus, boxes and
 /// dialogs of the windows. A step is a word, or a word, a colon and what it is about, "_" for a blank there:
 ///
-///     type:TEXT enter wipe word:TEXT fill:N   the word box; word is type and enter, fill adds N words
+///     type:TEXT enter wipe home del           the word box
+///     word:TEXT fill:N                        type and enter; N words
 ///     title:TEXT titleenter clicktitle        the title box
 ///     leave tabs                              to the word box, tabs by the Tab key from the list
 ///     pick:N edit delete create               the list, from 0, and the buttons

@@ -138,6 +138,14 @@ bool Page::Grid()
 
 } // namespace
 
+double ScaleForSheet(double width, double height)
+{
+    // The narrower of A4 and Letter, less what drivers round away, and the shorter of them.
+    constexpr double MadeForWidth = 11880;
+    constexpr double MadeForHeight = 15820;
+    return std::min({1.0, width / MadeForWidth, height / MadeForHeight});
+}
+
 bool PrintPage(PagePrinter& printer, std::u16string_view title, std::span<const std::u16string> words,
                const generator::PuzzleWorkspace& workspace)
 {

@@ -28,7 +28,7 @@ class PagePrinter {
 public:
     virtual ~PagePrinter() = default;
 
-    /// The width of the sheet in twips.
+    /// The width of the sheet in twips; of a sheet that is scaled to, before scaling.
     virtual std::optional<double> PageWidth() = 0;
     /// Takes the font for what follows and answers the size in effect, in points.
     virtual std::optional<double> SetFont(const PageFont& font) = 0;
@@ -41,6 +41,10 @@ public:
     /// Ends the document, which sends its one page to the printer.
     virtual bool EndDocument() = 0;
 };
+
+/// The scale at which a page goes onto a sheet of a size in twips: 1 on A4, Letter and everything larger; below where
+/// the sheet is smaller than what the page is made for, so that all of it is on paper.
+double ScaleForSheet(double width, double height);
 
 /// Composes the one page of a puzzle: the title, the words in columns of ten inside a ruled box, the grid of
 /// `workspace`. False as soon as the printer fails; the document is then not ended.

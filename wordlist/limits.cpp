@@ -27,9 +27,10 @@ std::u16string Named(const std::u16string& word)
     return u'"' + name + (word.size() > NamedCharacters ? u"…\"" : u"\"");
 }
 
-bool HasLetter(const std::u16string& word)
+bool LacksLetter(const std::u16string& word)
 {
-    return std::ranges::any_of(word, [](char16_t character) { return GridLetter(character).has_value(); });
+    const auto isLetter = [](char16_t character) { return GridLetter(character).has_value(); };
+    return std::ranges::none_of(word, isLetter) && word.find_first_not_of(u' ') != std::u16string::npos;
 }
 
 /// One paragraph of the message: the demand, then the words that it concerns.
@@ -64,7 +65,7 @@ std::optional<std::u16string> ObstacleToPuzzle(std::span<const std::u16string> w
     const auto tooLong = Select(words, [](const auto& word) { return word.size() > MaxWordLength; });
     if (!tooLong.empty())
         demands += Demand(u"Please shorten to " + Number(MaxWordLength) + u" characters:", tooLong);
-    const auto letterless = Select(words, [](const auto& word) { return !HasLetter(word); });
+    const auto letterless = Select(words, LacksLetter);
     if (!letterless.empty())
         demands += Demand(u"Please remove, or give a letter to hide:", letterless);
     if (demands.empty())

@@ -12,7 +12,8 @@ inline constexpr int MaxTitleLength = 30; ///< characters of a title that can be
 
 /// What keeps `words` from becoming a puzzle, as a text for the user that names the words and says what to
 /// shorten or remove; nothing when the list is within the limits: at most MaxWords entries, each of at most
-/// MaxWordLength characters and with at least one letter. Typing hardly breaks a limit, but a file can.
+/// MaxWordLength characters and with at least one letter, or of blanks alone: such an entry hides nothing and hinders
+/// nothing. Typing breaks no limit, but a file can.
 std::optional<std::u16string> ObstacleToPuzzle(std::span<const std::u16string> words);
 
 } // namespace wordlist

@@ -1,56 +1,98 @@
 #include "app/widgets/entry_box.h"
 
+#include "document/puzzle_file.h"
 #include "wordlist/limits.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QValidator>
 
-namespace {
+#include <utility>
 
-/// Sits where a line edit asks whether its new text will do, which every way of entering text goes through,
-/// and answers with what the rule makes of the edit.
+/// Sits where a line edit asks whether its new text will do, which every way of entering text goes through.
 class EntryValidator : public QValidator {
 public:
-    EntryValidator(const wordlist::EntryRule& rule, EntryBox* box) : QValidator(box), Rule(rule), Box(*box)
-    {
-        connect(box, &QLineEdit::textChanged, this, [this](const QString& text) { Before = text; });
-    }
+    explicit EntryValidator(EntryBox* box) : QValidator(box), Box(*box) {}
 
-    State validate(QString& text, int& cursor) const override
-    {
-        // Setting a text leaves nothing to undo, an edit always does; only undo leaves something to redo.
-        const bool edited = Box.isUndoAvailable() && !Box.isRedoAvailable();
-        if (!edited || text == Before)
-            return Acceptable;
-        const auto admitted = wordlist::AdmitEdit(Before.toStdU16String(),
-                                                  {text.toStdU16String(), static_cast<std::size_t>(cursor)}, Rule);
-        const bool refused = admitted.text == Before.toStdU16String();
-        if (refused)
-            return Invalid; // the line edit takes the edit back and keeps its selection and its history
-        text = QString::fromStdU16String(admitted.text);
-        cursor = static_cast<int>(admitted.cursor);
-        return Acceptable;
-    }
+    /// Refused, an edit is taken back by the line edit, which keeps its selection and its history.
+    State validate(QString& text, int& /*cursor*/) const override { return Box.Admits(text) ? Acceptable : Invalid; }
 
 private:
-    wordlist::EntryRule Rule;
     EntryBox& Box;
-    QString Before;
 };
 
-} // namespace
-
-EntryBox::EntryBox(const wordlist::EntryRule& rule, QWidget* parent) : QLineEdit(parent)
+EntryBox::EntryBox(const wordlist::EntryRule& rule, QWidget* parent) : QLineEdit(parent), Rule(rule)
 {
-    setValidator(new EntryValidator(rule, this));
+    setMaxLength(static_cast<int>(document::MaxFileBytes)); // whatever a file brings; the rule bounds the user
+    setValidator(new EntryValidator(this));
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { Before = text; });
+    // The menu's Paste comes when no event of the box is under way.
+    connect(this, &QLineEdit::inputRejected, this, &EntryBox::MakePendingChange, Qt::QueuedConnection);
+}
+
+bool EntryBox::Admits(const QString& wanted)
+{
+    // Setting a text leaves nothing to undo, an edit always does; only undo leaves something to redo.
+    const bool edited = isUndoAvailable() && !isRedoAvailable();
+    if (!edited || wanted == Before)
+        return true;
+    Pending = wordlist::AdmitEdit(Before.toStdU16String(), {wanted.toStdU16String(), Typing}, Rule);
+    if (!Pending)
+        return false;
+    QString admitted = Before;
+    admitted.replace(static_cast<qsizetype>(Pending->position), static_cast<qsizetype>(Pending->removed),
+                     QString::fromStdU16String(Pending->inserted));
+    if (admitted == wanted)
+        Pending.reset();
+    return !Pending;
+}
+
+/// Makes what remains of an edit that was taken back, as an edit of its own.
+void EntryBox::MakePendingChange()
+{
+    if (!Pending)
+        return;
+    const wordlist::Change change = *std::exchange(Pending, std::nullopt);
+    home(false); // moving about keeps this edit and the one before apart, for undo
+    setCursorPosition(static_cast<int>(change.position));
+    if (change.removed > 0)
+        setSelection(static_cast<int>(change.position), static_cast<int>(change.removed));
+    insert(QString::fromStdU16String(change.inserted));
+}
+
+bool EntryBox::event(QEvent* event)
+{
+    const bool handled = QLineEdit::event(event);
+    MakePendingChange();
+    return handled;
+}
+
+/// A character that the rule discards does not even reach the line edit, which would forget what it could redo.
+void EntryBox::keyPressEvent(QKeyEvent* event)
+{
+    const QString typed = event->text();
+    Typing = typed.size() == 1 && typed.at(0).isPrint();
+    if (Typing && Rule.filter(typed.toStdU16String(), text().isEmpty()).empty())
+        event->accept();
+    else
+        QLineEdit::keyPressEvent(event);
+    Typing = false;
 }
 
 void EntryBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    QLineEdit::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    const bool clicks = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
+    if (clicks && rect().contains(event->position().toPoint()))
         emit Clicked();
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void EntryBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse)
+        emit Clicked();
+    QLineEdit::contextMenuEvent(event);
 }
 
 WordBox::WordBox(QWidget* parent)

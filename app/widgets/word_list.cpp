@@ -73,24 +73,33 @@ void WordList::resizeEvent(QResizeEvent* event)
 
 void WordList::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton)
+        return; // the other buttons choose nothing, so they must not select either
     MousePressing = true;
     QListWidget::mousePressEvent(event);
     MousePressing = false;
-    if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr)
+    if (itemAt(event->position().toPoint()) != nullptr)
         Choose();
 }
 
 /// With nothing selected the first arrow key selects the entry that has the focus rather than the one after
-/// it, and so do Home and End where they find nowhere to go.
+/// it, and so do Home and End where they find nowhere to go. A key that leads to the entry that is selected already
+/// chooses it again, as a click does.
 void WordList::keyPressEvent(QKeyEvent* event)
 {
     const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
     const bool stays = (event->key() == Qt::Key_Home && currentRow() == 0) ||
                        (event->key() == Qt::Key_End && currentRow() == count() - 1);
-    if ((arrow || stays) && SelectedPosition() < 0 && currentItem() != nullptr)
+    const int selected = SelectedPosition();
+    if ((arrow || stays) && selected < 0 && currentItem() != nullptr)
         currentItem()->setSelected(true);
     else
         QListWidget::keyPressEvent(event);
+    const bool leadsThere =
+        event->key() == Qt::Key_Space || (!event->text().isEmpty() && selected >= 0 &&
+                                          item(selected)->text().startsWith(event->text(), Qt::CaseInsensitive));
+    if (selected >= 0 && selected == SelectedPosition() && leadsThere)
+        Choose();
 }
 
 void WordList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

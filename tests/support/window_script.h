@@ -4,6 +4,7 @@
 #include "tools/script.h"
 
 #include <QTemporaryDir>
+#include <QWindow>
 #include <QtTest>
 
 #include <map>
@@ -38,7 +39,7 @@ protected:
         const auto& count = Control<QLabel>("lblWordCount");
         const int selected = Control<WordList>("lstWordlist").SelectedPosition();
         QString state =
-            QStringList{Window->windowTitle(), Control<QLabel>("lblBigTitle").text(), words.join(','),
+            QStringList{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text(), words.join(','),
                         flag(Control<QAction>("mnuSave").isEnabled(), "S") +
                             flag(Control<QAction>("mnuSaveAs").isEnabled(), "A") +
                             flag(Control<QPushButton>("cmdCreatePuzzle").isEnabled(), "C") + flag(edit, "E") +
@@ -102,12 +103,12 @@ private slots:
         WriteFile("bad.pux", "\"Glyph\"\r\n\"T\"\r\n\"DOG\"\r\n");
         WriteFile("long.pux", "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
         WriteFile("many.pux", "\"2.2\"\r\n\"M\"\r\n" + QByteArray("W\r\n").repeated(41));
+        WriteFile("full.pux", "\"2.2\"\r\n\"F\"\r\n" + QByteArray("W\r\n").repeated(40));
         Start(FixedRandom(1));
     }
 
     void cleanup()
     {
-        delete ShownWindow("frmPuzzle");
         Window.reset();
         QVERIFY2(Answering.Done(), "an expected dialog did not come");
     }
