@@ -25,4 +25,9 @@ inline constexpr std::array<Step, DirectionCount + 1> Directions{{
     {-1, -1}, // up and to the left
 }};
 
+inline const Step& StepOf(int direction)
+{
+    return Directions[static_cast<std::size_t>(direction)];
+}
+
 } // namespace generator

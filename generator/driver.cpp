@@ -29,8 +29,8 @@ void PuzzleWorkspace::LoadPuzzleArray()
     FillPuzzle();
 }
 
-/// One pass through all word slots, the empty ones beyond the end of the list included: they cost an attempt
-/// and write nothing. False as soon as a word has missed too often.
+/// One pass through all word slots, the empty ones beyond the end of the list included: they cost an attempt and
+/// write nothing. False as soon as a word has missed too often.
 bool PuzzleWorkspace::PlaceAllWords()
 {
     int missCount = 0;
@@ -40,14 +40,17 @@ bool PuzzleWorkspace::PlaceAllWords()
     return true;
 }
 
-/// Attempts at one word until a pseudo pass meets no clash. The attempt after the last allowed miss is made
-/// but not used. A word that fills all its slots leaves the misses standing for the words after it.
+/// Attempts at one word until a pseudo pass meets no clash. The attempt after the last allowed miss is made but not
+/// used. A word that fills all its slots leaves the misses standing for the words after it.
 bool PuzzleWorkspace::PlaceWord(int& missCount)
 {
     for (;; ++missCount) {
         TakeWord(WordIndex);
         InsertionPointAndDirection();
-        CheckForClash();
+        PseudoWord = CurrentWord;
+        PseudoRow = CurrentRow;
+        PseudoColumn = CurrentColumn;
+        PseudoLoadPuzzleArray();
         if (missCount == MissesBeforeRestart)
             return false;
         if (PseudoFits)
@@ -65,22 +68,10 @@ void PuzzleWorkspace::TakeWord(int word)
     DetermineWordLength();
 }
 
-/// Sends the pseudo pass along CurrentWord from the cursor.
-void PuzzleWorkspace::CheckForClash()
-{
-    PseudoWord = CurrentWord;
-    PseudoRow = CurrentRow;
-    PseudoColumn = CurrentColumn;
-    PseudoLoadPuzzleArray();
-}
-
 void PuzzleWorkspace::WriteWord()
 {
-    bool first = true;
-    WalkWord(CurrentWord, LetterIndex, [&](char letter) {
-        if (!first)
-            CurrentDirection();
-        first = false;
+    const auto move = [this] { CurrentDirection(); };
+    WalkWord(CurrentWord, LetterIndex, move, [this](char letter) {
         PuzzleArray(CurrentRow, CurrentColumn) = letter;
         return true;
     });

@@ -3,15 +3,6 @@
 
 namespace generator {
 
-namespace {
-
-const Step& StepOf(int direction)
-{
-    return Directions.at(static_cast<std::size_t>(direction));
-}
-
-} // namespace
-
 void PuzzleWorkspace::InsertionPointAndDirection()
 {
     do {
@@ -36,16 +27,17 @@ void PuzzleWorkspace::RandomStartingPoint()
 
 void PuzzleWorkspace::TestWordForFit()
 {
-    const auto [rowStep, columnStep] = StepOf(Direction);
-    WordFits = StaysInside(CurrentRow, rowStep) && StaysInside(CurrentColumn, columnStep);
+    const auto [firstRow, lastRow] = Starts(StepOf(Direction).row);
+    const auto [firstColumn, lastColumn] = Starts(StepOf(Direction).column);
+    WordFits = firstRow <= CurrentRow && CurrentRow <= lastRow && firstColumn <= CurrentColumn &&
+               CurrentColumn <= lastColumn;
 }
 
-/// One row or column of the bounds rule: the cell after the word's last must still be inside, so that no
-/// letter stands on the border towards which the word runs.
-bool PuzzleWorkspace::StaysInside(int position, int step) const
+/// The first and the last row or column from which the word keeps inside: the cell after its last must still be in
+/// the grid, so that no letter stands on the border towards which it runs.
+std::pair<int, int> PuzzleWorkspace::Starts(int step) const
 {
-    const int afterLast = position + step * WordLength;
-    return afterLast >= 1 && afterLast <= PuzzleSize;
+    return {step < 0 ? 1 + WordLength : 1, step > 0 ? PuzzleSize - WordLength : PuzzleSize};
 }
 
 void PuzzleWorkspace::CurrentDirection()
@@ -64,11 +56,8 @@ void PuzzleWorkspace::PseudoLoadPuzzleArray()
 {
     PseudoFits = true;
     int SharedLetters = 0;
-    bool first = true;
-    WalkWord(PseudoWord, PseudoLetter, [&](char letter) {
-        if (!first)
-            PseudoCurrentDirection();
-        first = false;
+    const auto move = [this] { PseudoCurrentDirection(); };
+    WalkWord(PseudoWord, PseudoLetter, move, [&](char letter) {
         const char cell = PuzzleArray(PseudoRow, PseudoColumn);
         if (cell != Empty)
             SharedLetters = cell == letter ? SharedLetters + 1 : 2;

@@ -5,8 +5,8 @@
 
 namespace generator {
 
-/// The source of all chance in a puzzle: a 64-bit mixing generator (Sebastiano Vigna's SplitMix64), seeded
-/// from a clock and the same on every platform. Copying it copies its state: both copies go on alike.
+/// The source of all chance in a puzzle: a 64-bit mixing generator (Sebastiano Vigna's SplitMix64), seeded from a
+/// clock and the same on every platform. Copying it copies its state: both copies go on alike.
 class RandomSource {
 public:
     using Clock = std::function<std::uint64_t()>;
@@ -14,8 +14,8 @@ public:
     /// Takes its first seed from `clock`, and one reading more for each Reseed.
     explicit RandomSource(Clock clock = SystemClock);
 
-    /// Folds a clock reading into the state. Numbers already drawn do not come again, however often this is
-    /// called within one tick of the clock.
+    /// Folds a clock reading into the state. Numbers already drawn do not come again, however often this is called
+    /// within one tick of the clock.
     void Reseed();
 
     /// A number u with 0 <= u < 1, also at single precision: 24 random bits.

@@ -61,11 +61,7 @@ void PuzzleWorkspace::FillPuzzle()
 
 void PuzzleWorkspace::Reset()
 {
-    CurrentWord = 0;
-    CurrentRow = 0;
-    CurrentColumn = 0;
-    WordLength = 0;
-    Direction = 0;
+    CurrentWord = CurrentRow = CurrentColumn = WordLength = Direction = 0;
     WordFits = true;
     ClearWordsArray();
     ClearPuzzleArray();

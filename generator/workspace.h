@@ -14,12 +14,12 @@ namespace generator {
 inline constexpr int MinPuzzleSize = 10;
 inline constexpr int MaxPuzzleSize = 30;
 
-/// Everything the generator works on: the words as letters, the square grid, and the cursor that writes one
-/// into the other. The main window owns the only one. Its procedures take no arguments where they can: they
-/// speak through these fields.
+/// Everything the generator works on: the words as letters, the square grid, and the cursor that writes one into the
+/// other. The main window owns the only one. Its procedures take no arguments where they can: they speak through
+/// these fields.
 ///
-/// A puzzle is made by LoadWordsArray and then LoadPuzzleArray, from blank arrays. Index 0 of every array
-/// exists and is never used; cell (row, column) counts from (1, 1) at the top left.
+/// A puzzle is made by LoadWordsArray and then LoadPuzzleArray, from blank arrays. Index 0 of every array exists and
+/// is never used; cell (row, column) counts from (1, 1) at the top left.
 class PuzzleWorkspace {
 public:
     /// How the words of the last puzzle found their places.
@@ -60,17 +60,16 @@ public:
 
     // The words and the grid (workspace.cpp).
 
-    /// Stores the entries of the word list, letters as capitals and everything else as Blank. Characters
-    /// after an entry's 20th and entries after the 40th are left out; check a list with ObstacleToPuzzle
-    /// first.
+    /// Stores the entries of the word list, letters as capitals and everything else as Blank. Characters after an
+    /// entry's 20th and entries after the 40th are left out; check a list with ObstacleToPuzzle first.
     void LoadWordsArray(std::span<const std::u16string> words);
     void ClearWordsArray();
     /// Empties the cells 1..PuzzleSize and no other.
     void ClearPuzzleArray();
     /// WordLength becomes the length of CurrentWord's entry, 0 where the list has none.
     void DetermineWordLength();
-    /// PuzzleSize becomes the smallest n of 10..30 whose square holds 1.75 times the letters, but always
-    /// larger than the longest word.
+    /// PuzzleSize becomes the smallest n of 10..30 whose square holds 1.75 times the letters, but always larger than
+    /// the longest word.
     void SetPuzzleSize();
     /// Puts a random capital into every empty cell, row by row.
     void FillPuzzle();
@@ -83,55 +82,60 @@ public:
     void InsertionPointAndDirection();
     void RandomDirectionSelector();
     void RandomStartingPoint();
-    /// The bounds rule for WordLength letters from the cursor in Direction. It keeps one cell in hand: no
-    /// letter stands on the border that the word runs towards.
+    /// The bounds rule for WordLength letters from the cursor in Direction. It keeps one cell in hand: no letter
+    /// stands on the border that the word runs towards.
     void TestWordForFit();
     void CurrentDirection();
     void PseudoCurrentDirection();
-    /// The pseudo pass: PseudoFits tells whether PseudoWord, from the pseudo cursor in Direction, shares at
-    /// most one cell with the letters in the grid, and only one that holds its own letter. Writes no cell.
+    /// The pseudo pass: PseudoFits tells whether PseudoWord, from the pseudo cursor in Direction, shares at most one
+    /// cell with the letters in the grid, and only one that holds its own letter. Writes no cell.
     void PseudoLoadPuzzleArray();
 
     // The driver (driver.cpp).
 
-    /// Turns the loaded words into a finished grid: sizes it, places every word, fills the rest. Six passes a
-    /// size, then one size more; after six passes at 30 x 30 the dense arrangement.
+    /// Turns the loaded words into a finished grid: sizes it, places every word, fills the rest. Six passes a size,
+    /// then one size more; after six passes at 30 x 30 the dense arrangement.
     void LoadPuzzleArray();
 
     // The dense arrangement (dense_arrangement.cpp).
 
-    /// Places the words of a full list in a grid of 30 x 30: passes that take the words longest first and
-    /// choose among all legal placements, and the lanes should every pass fail.
+    /// Places the words of a full list in a grid of 30 x 30: passes that take the words longest first and choose
+    /// among all legal placements, and the lanes should every pass fail.
     void ArrangeDensely();
-    /// Places any list within the limits in a grid of 30 x 30, without fail: up to 30 words side by side in a
-    /// band of rows, ten more across them beyond its ends.
+    /// Places any list within the limits in a grid of 30 x 30, without fail: up to 30 words side by side in a band of
+    /// rows, ten more across them beyond its ends.
     void ArrangeInLanes();
 
 private:
-    template <class Visit>
-    void WalkWord(int word, int& slot, Visit visit) const;
-    bool StaysInside(int position, int step) const;
-    void CheckForClash();
+    class OccupiedLines;
+
+    template <class Move, class Visit>
+    void WalkWord(int word, int& slot, Move move, Visit visit) const;
+    std::pair<int, int> Starts(int step) const;
     bool PlaceAllWords();
     bool PlaceWord(int& missCount);
     void WriteWord();
     void TakeWord(int word);
-    bool PlaceAllDensely(std::span<const int> words);
-    bool PlaceAnywhere(int word);
+    bool PlaceAnywhere(int word, OccupiedLines& lines);
     void PlaceInLane(int word, int lane, int bandStart, bool turned);
 
     std::array<int, wordlist::MaxWords + 1> EntryLengths{};
 };
 
-/// The walk of a word: calls visit(letter) for each letter in order and stops where it returns false or at
-/// the first empty slot. Blanks take no cell. `slot` follows the slot number and is left at the slot that
-/// ended the walk, MaxWordLength + 1 when the word fills them all.
-template <class Visit>
-void PuzzleWorkspace::WalkWord(int word, int& slot, Visit visit) const
+/// The walk of a word: calls visit(letter) for each letter in order, and move() before each but the first, and stops
+/// where visit returns false or at the first empty slot. Blanks take no cell. `slot` follows the slot number and is
+/// left at the slot that ended the walk, MaxWordLength + 1 when the word fills them all.
+template <class Move, class Visit>
+void PuzzleWorkspace::WalkWord(int word, int& slot, Move move, Visit visit) const
 {
+    bool first = true;
     for (slot = 1; slot <= wordlist::MaxWordLength; ++slot) {
         const char letter = WordsArray(word, slot);
-        if (letter == Empty || (letter != Blank && !visit(letter)))
+        if (letter == Blank)
+            continue;
+        if (letter != Empty && !std::exchange(first, false))
+            move();
+        if (letter == Empty || !visit(letter))
             return;
     }
 }
