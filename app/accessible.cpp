@@ -81,7 +81,10 @@ private:
 
 class PressableLink : public QAccessibleWidget {
 public:
-    explicit PressableLink(MakerLink* link) : QAccessibleWidget(link, QAccessible::Link, link->text()) {}
+    explicit PressableLink(MakerLink* link)
+        : QAccessibleWidget(link, QAccessible::Link, QObject::tr("%1 website").arg(link->text()))
+    {
+    }
 
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString& action) override

@@ -6,14 +6,14 @@
 
 #include <QPushButton>
 
-frmAbout::frmAbout(QWidget* owner) : QDialog(owner)
+frmAbout::frmAbout(QWidget* owner) : QDialog(owner), Scale(looks::ScaleForFont(*this))
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(tr("About %1").arg(program::Name));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint);
     setPalette(looks::OnWhite(Qt::black));
-    looks::FixSize(*this, 5745, 2205);
+    setFixedSize(looks::SizeInPixels(*this, 5745, 2205, Scale));
     BuildMaker();
     BuildTexts();
     BuildButton();
@@ -23,10 +23,8 @@ void frmAbout::BuildMaker()
 {
     auto* link = new MakerLink(14.25, this);
     link->setObjectName(QStringLiteral("lblbytallowick"));
-    looks::Place(*link, 150, 90, 0, 360);
-    link->resize(link->sizeHint().width(), link->height());
-    QLabel* trademark = MakeTrademark(looks::BoldItalic(looks::Serif, 9.75), this);
-    trademark->move(link->geometry().topRight() + QPoint(2, 0));
+    looks::Place(*link, 150, 90, 0, 360, Scale);
+    PlaceTrademark(*link, looks::BoldItalic(looks::Serif, 9.75));
 }
 
 void frmAbout::BuildTexts()
@@ -47,7 +45,7 @@ void frmAbout::AddText(const QString& name, const QString& text, int y, int heig
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    looks::Place(*label, 150, y, 5445, height);
+    looks::Place(*label, 150, y, 5445, height, Scale);
 }
 
 void frmAbout::BuildButton()
@@ -56,6 +54,6 @@ void frmAbout::BuildButton()
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
     cmdOK->setFocus();
-    looks::Place(*cmdOK, 4395, 1665, 1200, 390);
+    looks::Place(*cmdOK, 4395, 1665, 1200, 390, Scale);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }

@@ -10,6 +10,8 @@ public:
     explicit frmAbout(QWidget* owner);
 
 private:
+    double Scale; ///< for the interface's font
+
     void BuildMaker();
     void BuildTexts();
     void BuildButton();

@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLayout>
 #include <QMenuBar>
 
 namespace {
@@ -33,14 +32,12 @@ constexpr int BottomRow = 5895;
 
 } // namespace
 
-frmMain::frmMain(generator::RandomSource random) : Client(new QWidget(this)), Workspace(std::move(random))
+frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*this)), Workspace(std::move(random))
 {
     TellAssistiveTechnology();
     setObjectName(QStringLiteral("frmMain"));
-    setPalette(looks::LightYellow());
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-    setCentralWidget(Client);
     BuildMenus();
     BuildToolbar();
     BuildTitle();
@@ -48,10 +45,7 @@ frmMain::frmMain(generator::RandomSource random) : Client(new QWidget(this)), Wo
     BuildCommandButtons();
     BuildWordList();
     BuildMakerLink();
-    looks::FixSize(*Client, ClientWidth, ClientHeight);
-    layout()->setSizeConstraint(QLayout::SetFixedSize); // the client area and the menus above it
-    adjustSize();
-    looks::Centre(*this);
+    FixClient(looks::SizeInPixels(*this, ClientWidth, ClientHeight, Scale));
     Form_Load();
 }
 
@@ -64,52 +58,58 @@ void frmMain::BuildMenus()
 {
     QMenu* mnuFile = menuBar()->addMenu(tr("&File"));
     mnuFile->setObjectName(QStringLiteral("mnuFile"));
-    AddCommand(mnuFile, "mnuOpen", tr("&Open"), &frmMain::mnuOpen_Click);
-    mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), &frmMain::mnuSave_Click);
-    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), &frmMain::mnuSaveAs_Click);
-    AddCommand(mnuFile, "mnuNewPuzzle", tr("&New Puzzle"), &frmMain::mnuNewPuzzle_Click);
-    AddCommand(mnuFile, "mnuExit", tr("&Quit"), &frmMain::mnuExit_Click);
+    AddCommand(mnuFile, "mnuOpen", tr("&Open"), QKeySequence::Open, &frmMain::mnuOpen_Click);
+    mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), QKeySequence::Save, &frmMain::mnuSave_Click);
+    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), QKeySequence::SaveAs, &frmMain::mnuSaveAs_Click);
+    AddCommand(mnuFile, "mnuNewPuzzle", tr("&New Puzzle"), QKeySequence::New, &frmMain::mnuNewPuzzle_Click);
+    AddCommand(mnuFile, "mnuExit", tr("&Quit"), QKeySequence::Quit, &frmMain::mnuExit_Click);
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     QMenu* mnuHelp = menuBar()->addMenu(tr("&Help"));
     mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
-    AddCommand(mnuHelp, "mnuAbout", tr("&About"), &frmMain::mnuAbout_Click);
+    AddCommand(mnuHelp, "mnuAbout", tr("&About"), QKeySequence::HelpContents, &frmMain::mnuAbout_Click);
 }
 
-QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, void (frmMain::*command)())
+QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
+                             void (frmMain::*command)())
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
-    connect(action, &QAction::triggered, this, command);
+    action->setShortcuts(keys);
+    // Queued: who asks for the command by other means than a click need not wait for the dialogs that it opens.
+    connect(action, &QAction::triggered, this, command, Qt::QueuedConnection);
     return action;
 }
 
 void frmMain::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar(QStringLiteral("Toolbar1"),
-                                    {{"New", "new", QT_TR_NOOP("Start New Puzzle")},
-                                     {"Open", "open", QT_TR_NOOP("Open Saved Puzzle")},
-                                     {"Save", "save", QT_TR_NOOP("Save Puzzle")},
+    QToolBar* toolbar = MakeToolbar(QStringLiteral("Toolbar1"), tr("Puzzle and words"),
+                                    {{"New", "new", QT_TR_NOOP("Start New Puzzle"), QKeySequence::New},
+                                     {"Open", "open", QT_TR_NOOP("Open Saved Puzzle"), QKeySequence::Open},
+                                     {"Save", "save", QT_TR_NOOP("Save Puzzle"), QKeySequence::Save},
                                      {"Delete", "delete", QT_TR_NOOP("Delete Word")}},
                                     Client);
-    looks::Place(*toolbar, 0, 0, ClientWidth, 360);
-    connect(toolbar, &QToolBar::actionTriggered, this,
-            [this](const QAction* action) { Toolbar1_ButtonClick(ToolbarIndex(*action)); });
+    Place(*toolbar, 0, 0, ClientWidth, 360);
+    connect(
+        toolbar, &QToolBar::actionTriggered, this,
+        [this](const QAction* action) { Toolbar1_ButtonClick(ToolbarIndex(*action)); }, Qt::QueuedConnection);
 }
 
 void frmMain::BuildTitle()
 {
-    lblBigTitle = AddLabel("lblBigTitle", tr("New Puzzle"));
+    lblBigTitle = new TitleLabel(tr("New Puzzle"), Client);
+    lblBigTitle->setObjectName(QStringLiteral("lblBigTitle"));
+    lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
     lblBigTitle->setAlignment(Qt::AlignCenter);
-    looks::Place(*lblBigTitle, 120, 420, ClientWidth - 240, 735);
+    Place(*lblBigTitle, 120, 420, ClientWidth - 240, 735);
 
-    looks::Place(*AddLabel("lblTitle", tr("Title:")), Margin, TitleRow, BoxLeft - Margin, RowHeight);
     txtTitle = new EntryBox({document::FilterTitle, wordlist::MaxTitleLength}, Client);
     txtTitle->setObjectName(QStringLiteral("txtTitle"));
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(tr("New Puzzle"));
-    looks::Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
+    Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
+    Place(*AddLabel("lblTitle", tr("Title:"), txtTitle), Margin, TitleRow, BoxLeft - Margin, RowHeight);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
     connect(txtTitle, &EntryBox::Clicked, this, &frmMain::txtTitle_Click);
     connect(qApp, &QApplication::focusChanged, this,
@@ -118,11 +118,11 @@ void frmMain::BuildTitle()
 
 void frmMain::BuildWordEntry()
 {
-    looks::Place(*AddLabel("lblWord", tr("Word:")), Margin, WordRow, BoxLeft - Margin, RowHeight);
     txtNewWords = new WordBox(Client);
     txtNewWords->setObjectName(QStringLiteral("txtNewWords"));
     txtNewWords->setAccessibleName(tr("Word"));
-    looks::Place(*txtNewWords, BoxLeft, WordRow, BoxWidth, RowHeight);
+    Place(*txtNewWords, BoxLeft, WordRow, BoxWidth, RowHeight);
+    Place(*AddLabel("lblWord", tr("Word:"), txtNewWords), Margin, WordRow, BoxLeft - Margin, RowHeight);
 }
 
 void frmMain::BuildCommandButtons()
@@ -130,37 +130,37 @@ void frmMain::BuildCommandButtons()
     cmdEnter = AddButton("cmdEnter", tr("Enter"), &frmMain::cmdEnter_Click);
     cmdEnter->setAutoDefault(false); // it would cease to be the default once the focus had passed over it
     cmdEnter->setDefault(true);
-    looks::Place(*cmdEnter, BoxLeft + BoxWidth + 150, WordRow, 1950, RowHeight);
+    Place(*cmdEnter, BoxLeft + BoxWidth + 150, WordRow, 1950, RowHeight);
     cmdCreatePuzzle = AddButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click);
     cmdCreatePuzzle->setEnabled(false);
-    looks::Place(*cmdCreatePuzzle, 7680, TitleRow, 2250, WordRow + RowHeight - TitleRow);
+    Place(*cmdCreatePuzzle, 7680, TitleRow, 2250, WordRow + RowHeight - TitleRow);
     cmdEditWord = AddButton("cmdEditWord", tr("Edit Word"), &frmMain::EditWord);
-    looks::Place(*cmdEditWord, 6885, ListHeadRow, 1470, RowHeight);
+    Place(*cmdEditWord, 6885, ListHeadRow, 1470, RowHeight);
     cmdDelete = AddButton("cmdDelete", tr("Delete Word"), &frmMain::cmdDelete_Click);
-    looks::Place(*cmdDelete, 8460, ListHeadRow, 1470, RowHeight);
+    Place(*cmdDelete, 8460, ListHeadRow, 1470, RowHeight);
     ShowEditButtons(false);
 }
 
 void frmMain::BuildWordList()
 {
-    QLabel* heading = AddLabel("lblMyWordlist", tr("My Word List"));
-    heading->setFont(looks::BoldItalic(looks::Serif, 14.25));
-    heading->setAlignment(Qt::AlignCenter);
-    looks::Place(*heading, 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
-
     lstWordlist = new WordList(Client);
     lstWordlist->setObjectName(QStringLiteral("lstWordlist"));
     lstWordlist->setAccessibleName(tr("My Word List"));
-    looks::Place(*lstWordlist, Margin, ListTop, ClientWidth - 2 * Margin, ListHeight);
+    Place(*lstWordlist, Margin, ListTop, ClientWidth - 2 * Margin, ListHeight);
     connect(lstWordlist, &WordList::Chosen, this, &frmMain::lstWordlist_Click);
+    QLabel* heading = AddLabel("lblMyWordlist", tr("My Word List"), lstWordlist);
+    heading->setFont(looks::BoldItalic(looks::Serif, 14.25));
+    heading->setAlignment(Qt::AlignCenter);
+    Place(*heading, 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
 
-    QLabel* countLabel = AddLabel("lblWordCountLabel", tr("Word Count:"));
+    lblWordCount = AddLabel("lblWordCount", QString());
+    lblWordCount->setFont(heading->font());
+    Place(*lblWordCount, 9240, BottomRow, 690, RowHeight);
+    QLabel* countLabel = AddLabel("lblWordCountLabel", tr("Word Count:"), lblWordCount);
     countLabel->setFont(heading->font());
     countLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    looks::Place(*countLabel, 6900, BottomRow, 2250, RowHeight);
-    lblWordCount = AddLabel("lblWordCount", QStringLiteral("0"));
-    lblWordCount->setFont(heading->font());
-    looks::Place(*lblWordCount, 9240, BottomRow, 690, RowHeight);
+    Place(*countLabel, 6900, BottomRow, 2250, RowHeight);
+    WordCounter();
 }
 
 void frmMain::BuildMakerLink()
@@ -168,17 +168,22 @@ void frmMain::BuildMakerLink()
     auto* lblTallowick = new MakerLink(9.75, Client);
     lblTallowick->setObjectName(QStringLiteral("lblTallowick"));
     lblTallowick->setToolTip(tr("Click to go to the Tallowick website."));
-    looks::Place(*lblTallowick, Margin, BottomRow + 60, 0, 270);
-    lblTallowick->resize(lblTallowick->sizeHint().width() + 2, lblTallowick->height());
-    QLabel* trademark = MakeTrademark(looks::BoldItalic(looks::Monospaced, 8.25), Client);
-    trademark->move(lblTallowick->geometry().topRight() + QPoint(1, 0));
+    Place(*lblTallowick, Margin, BottomRow + 60, 0, 270);
+    PlaceTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25));
 }
 
-QLabel* frmMain::AddLabel(const char* name, const QString& text)
+void frmMain::Place(QWidget& control, int x, int y, int width, int height)
+{
+    looks::Place(control, x, y, width, height, Scale);
+}
+
+/// A label; `told` is the control that it stands beside and tells of.
+QLabel* frmMain::AddLabel(const char* name, const QString& text, QWidget* told)
 {
     auto* label = new QLabel(text, Client);
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
+    label->setBuddy(told);
     return label;
 }
 
@@ -208,18 +213,23 @@ void frmMain::Form_Activate()
 
 void frmMain::showEvent(QShowEvent* event)
 {
-    QMainWindow::showEvent(event);
+    ClientWindow::showEvent(event);
     if (!event->spontaneous()) // the desktop's own un-minimising is none of these
         Form_Activate();
 }
 
-/// The default button for every control that has no use for the Return key itself.
+/// The default button for every control that has no use for the Return key itself. The keys of Save do what the
+/// toolbar's button does, also where the menu's command is not available.
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->matches(QKeySequence::Save)) {
+        ToolbarSave();
+        return;
+    }
+    event->setAccepted(false);
+    ClientWindow::keyPressEvent(event);
+    if (!event->isAccepted() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         cmdEnter->click();
-    else
-        QMainWindow::keyPressEvent(event);
 }
 
 void frmMain::Toolbar1_ButtonClick(int index)

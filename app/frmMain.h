@@ -1,13 +1,14 @@
 #pragma once
 
 #include "app/frmPuzzle.h"
+#include "app/widgets/client_window.h"
 #include "app/widgets/entry_box.h"
+#include "app/widgets/title_label.h"
 #include "app/widgets/word_list.h"
 #include "generator/workspace.h"
 
 #include <QAction>
 #include <QLabel>
-#include <QMainWindow>
 #include <QPushButton>
 
 #include <memory>
@@ -15,7 +16,7 @@
 /// The main window: home of the document and owner of everything the program keeps while it runs. Its title
 /// box and word list hold the document, its fields the document's and the editor's state, its workspace the
 /// puzzle. Each command is a procedure that sets what is to be seen after it.
-class frmMain : public QMainWindow {
+class frmMain : public ClientWindow {
     Q_OBJECT
 
 public:
@@ -34,14 +35,16 @@ protected:
 private:
     // Controls, start-up, becoming active, toolbar, maker link (frmMain.cpp).
     void BuildMenus();
-    QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, void (frmMain::*command)());
+    QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
+                        void (frmMain::*command)());
     void BuildToolbar();
     void BuildTitle();
     void BuildWordEntry();
     void BuildCommandButtons();
     void BuildWordList();
     void BuildMakerLink();
-    QLabel* AddLabel(const char* name, const QString& text);
+    void Place(QWidget& control, int x, int y, int width, int height);
+    QLabel* AddLabel(const char* name, const QString& text, QWidget* told = nullptr);
     QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)());
     void Form_Load();
     void Form_Activate();
@@ -92,8 +95,8 @@ private:
     void DrawToPictureBox();
     void Print_Puzzle();
 
-    QWidget* Client;
-    QLabel* lblBigTitle = nullptr;
+    double Scale; ///< of everything in the window, for the interface's font
+    TitleLabel* lblBigTitle = nullptr;
     EntryBox* txtTitle = nullptr;
     WordBox* txtNewWords = nullptr;
     QPushButton* cmdEnter = nullptr;

@@ -146,4 +146,5 @@ void frmMain::WordCounter()
     palette.setColor(QPalette::WindowText, count < wordlist::MaxWords ? Qt::black : Qt::red);
     lblWordCount->setPalette(palette);
     lblWordCount->setText(QString::number(count));
+    lblWordCount->setAccessibleName(tr("Word Count: %1").arg(count)); // which is announced, too
 }

@@ -17,20 +17,18 @@ constexpr int WordsPerColumn = 20;
 } // namespace
 
 frmPuzzle::frmPuzzle()
-    : pctPuzzle(new PuzzleSurface(this)), lblBigTitle(new QLabel(this)), lblWords(),
-      cmdPrint(new QPushButton(tr("Print Puzzle"), this))
+    : pctPuzzle(new PuzzleSurface(Client)), lblBigTitle(new TitleLabel(Client)), lblWords(),
+      cmdPrint(new QPushButton(tr("Print Puzzle"), Client))
 {
     setObjectName(QStringLiteral("frmPuzzle"));
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_QuitOnClose, false); // the main window, hidden meanwhile, comes back
-    setPalette(looks::LightYellow());
     BuildSurface();
     BuildTitle();
     BuildWordLabels();
     BuildToolbar();
-    looks::FixSize(*this, 12900, 8295);
-    looks::Centre(*this);
+    FixClient(looks::SizeInPixels(*this, 12900, 8295));
 }
 
 void frmPuzzle::BuildSurface()
@@ -45,14 +43,13 @@ void frmPuzzle::BuildTitle()
     lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 15.75));
     lblBigTitle->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    lblBigTitle->setWordWrap(true);
     SetTitle(tr("New Puzzle"));
 }
 
 void frmPuzzle::BuildWordLabels()
 {
     for (int i = 0; i < WordPlaces; ++i) {
-        auto* label = new QLabel(this);
+        auto* label = new QLabel(Client);
         label->setObjectName(QStringLiteral("lblWords%1").arg(i));
         label->setTextFormat(Qt::PlainText);
         label->setFont(looks::Font(looks::Monospaced, 8.25));
@@ -64,18 +61,23 @@ void frmPuzzle::BuildWordLabels()
 /// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
 void frmPuzzle::BuildToolbar()
 {
-    QToolBar* toolbar =
-        MakeToolbar(QStringLiteral("PuzzleToolbar"),
-                    {{"Print", "print", QT_TR_NOOP("Print Puzzle")}, {"Back", "back", QT_TR_NOOP("Go Back")}}, this);
+    QToolBar* toolbar = MakeToolbar(QStringLiteral("PuzzleToolbar"), tr("Puzzle"),
+                                    {{"Print", "print", QT_TR_NOOP("Print Puzzle"), QKeySequence::Print},
+                                     {"Back", "back", QT_TR_NOOP("Go Back"), QKeySequence::Cancel}},
+                                    Client);
     looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
-    connect(toolbar, &QToolBar::actionTriggered, this,
-            [this](const QAction* action) { PuzzleToolbar_ButtonClick(ToolbarIndex(*action)); });
+    connect(
+        toolbar, &QToolBar::actionTriggered, this,
+        [this](const QAction* action) { PuzzleToolbar_ButtonClick(ToolbarIndex(*action)); }, Qt::QueuedConnection);
+    toolbar->actions().first()->setShortcuts(QKeySequence::Print);
+    toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) << Qt::Key_Escape);
+    toolbar->widgetForAction(toolbar->actions().first())->setFocus();
     cmdPrint->setObjectName(QStringLiteral("cmdPrint"));
     cmdPrint->hide();
     connect(cmdPrint, &QPushButton::clicked, this, &frmPuzzle::cmdPrint_Click);
 }
 
-/// A title too long for one line of the label flows into a second one, which has room above the words.
+/// A title too long for one line of the label has room for a second one above the words.
 void frmPuzzle::SetTitle(const QString& title)
 {
     lblBigTitle->setText(title);
@@ -87,6 +89,7 @@ void frmPuzzle::SetWord(int index, const QString& word)
 {
     QLabel* label = lblWords.at(static_cast<std::size_t>(index));
     label->setText(word);
+    label->setHidden(word.isEmpty()); // nothing is there to be told
     const int x = index < WordsPerColumn ? 120 : 2520;
     looks::Place(*label, x, 1560 + WordHeight * (index % WordsPerColumn), 0, WordHeight);
     label->resize(label->sizeHint().width(), label->height());

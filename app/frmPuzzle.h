@@ -1,15 +1,16 @@
 #pragma once
 
+#include "app/widgets/client_window.h"
 #include "app/widgets/puzzle_surface.h"
+#include "app/widgets/title_label.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 #include <array>
 
 /// The puzzle window: one generated puzzle beside its word list. It holds no data of its own; the main window
 /// fills its labels and draws its grid, and is told what the user wants of it. It is built for one puzzle.
-class frmPuzzle : public QWidget {
+class frmPuzzle : public ClientWindow {
     Q_OBJECT
 
 public:
@@ -39,7 +40,7 @@ private:
     void PuzzleToolbar_ButtonClick(int index);
     void cmdPrint_Click();
 
-    QLabel* lblBigTitle;
+    TitleLabel* lblBigTitle;
     std::array<QLabel*, WordPlaces> lblWords;
     QPushButton* cmdPrint;
 };

@@ -1,7 +1,10 @@
 #include "app/looks.h"
 
-#include <QScreen>
+#include <QApplication>
+#include <QFontMetricsF>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace looks {
 
@@ -11,27 +14,30 @@ double ToPixels(const QWidget& widget, double twips)
     return twips * widget.logicalDpiX() / TwipsPerInch;
 }
 
-void Place(QWidget& widget, int x, int y, int width, int height)
+void Place(QWidget& widget, int x, int y, int width, int height, double scale)
 {
-    const auto pixels = [&widget](int twips) { return qRound(ToPixels(widget, twips)); };
+    const auto pixels = [&widget, scale](int twips) { return qRound(ToPixels(widget, twips * scale)); };
     widget.setGeometry(pixels(x), pixels(y), pixels(width), pixels(height));
 }
 
-void FixSize(QWidget& widget, int width, int height)
+QSize SizeInPixels(const QWidget& widget, int width, int height, double scale)
 {
-    widget.setFixedSize(qRound(ToPixels(widget, width)), qRound(ToPixels(widget, height)));
+    return {qRound(ToPixels(widget, width * scale)), qRound(ToPixels(widget, height * scale))};
+}
+
+double ScaleForFont(const QWidget& widget)
+{
+    // At 9 points, the usual size, a line and the longest caption take this much, in twips.
+    constexpr double UsualHeight = 210;
+    constexpr double UsualWidth = 1530;
+    const QFontMetricsF metrics(QApplication::font());
+    const double width = metrics.horizontalAdvance(QStringLiteral("Enter (EditMode)"));
+    return std::max({1.0, metrics.height() / ToPixels(widget, UsualHeight), width / ToPixels(widget, UsualWidth)});
 }
 
 void SetCaption(QWidget& window, QString text)
 {
     window.setWindowTitle(text.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
-}
-
-void Centre(QWidget& window)
-{
-    QRect frame = window.frameGeometry();
-    frame.moveCenter(window.screen()->availableGeometry().center());
-    window.move(frame.topLeft());
 }
 
 QFont Font(const QString& name, double points)

@@ -15,17 +15,18 @@ inline const QString Monospaced = QStringLiteral("Courier New");
 /// Twips (1/1440 inch) in pixels of `widget`, fractions kept: windows grow with their fonts.
 double ToPixels(const QWidget& widget, double twips);
 
-/// Places `widget` in its parent, all in twips.
-void Place(QWidget& widget, int x, int y, int width, int height);
+/// Places `widget` in its parent, all in twips, times `scale`.
+void Place(QWidget& widget, int x, int y, int width, int height, double scale = 1);
 
-/// Gives `widget` a fixed size, in twips.
-void FixSize(QWidget& widget, int width, int height);
+/// A size in twips, in pixels of `widget`.
+QSize SizeInPixels(const QWidget& widget, int width, int height, double scale = 1);
+
+/// How much larger than stated a window is to be drawn so that texts in the interface's font have as much room as
+/// at its usual size.
+double ScaleForFont(const QWidget& widget);
 
 /// Sets the caption of `window` to `text` as it stands: "[*]" is a placeholder to the toolkit.
 void SetCaption(QWidget& window, QString text);
-
-/// Puts `window` in the middle of its screen.
-void Centre(QWidget& window);
 
 QFont Font(const QString& name, double points);
 QFont BoldItalic(const QString& name, double points);
@@ -36,5 +37,6 @@ QPalette LightYellow();
 /// A white ground with dark text of the given colour.
 QPalette OnWhite(const QColor& text);
 inline const QColor MakerRed(128, 0, 0);
+inline const QColor Focus(0, 60, 140); ///< 7 : 1 against the light yellow, 6 : 1 against buttons
 
 } // namespace looks

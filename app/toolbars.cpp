@@ -3,10 +3,15 @@
 #include "app/looks.h"
 #include "app/pictures.h"
 
-QToolBar* MakeToolbar(const QString& name, std::initializer_list<ToolbarButton> buttons, QWidget* client)
+#include <QLayout>
+
+QToolBar* MakeToolbar(const QString& name, const QString& accessibleName,
+                      std::initializer_list<ToolbarButton> buttons, QWidget* client)
 {
     auto* toolbar = new QToolBar(client);
     toolbar->setObjectName(name);
+    toolbar->setAccessibleName(accessibleName);
+    toolbar->layout()->setContentsMargins(4, 0, 4, 0); // room for pictures of their full size
     toolbar->setIconSize(QSize(16, 16));
     toolbar->setMovable(false);
     toolbar->setFloatable(false);
@@ -16,7 +21,8 @@ QToolBar* MakeToolbar(const QString& name, std::initializer_list<ToolbarButton> 
         const QIcon picture = pictures::ForToolbar(QLatin1String(button.picture));
         QAction* action = toolbar->addAction(picture, QObject::tr(button.tip));
         action->setObjectName(QLatin1String(button.key));
-        action->setToolTip(QObject::tr(button.tip));
+        const QString keys = QKeySequence(button.keys).toString(QKeySequence::NativeText);
+        action->setToolTip(keys.isEmpty() ? action->text() : QStringLiteral("%1 (%2)").arg(action->text(), keys));
         action->setData(++index);
         toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // the keyboard reaches it too
     }

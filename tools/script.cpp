@@ -67,6 +67,7 @@ void Script::Step(const QString& step)
         {"pdf", [&] { Answering.Expect(PrintTo(Folder.absoluteFilePath(about))); }},
     };
     steps.at(step.section(':', 0, 0))();
+    QCoreApplication::sendPostedEvents(); // the commands of menus and toolbars are queued
 }
 
 void Script::Click(const char* button)

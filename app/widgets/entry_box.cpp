@@ -5,6 +5,7 @@
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QValidator>
 
@@ -105,7 +106,16 @@ void WordBox::keyPressEvent(QKeyEvent* event)
     const bool control = event->modifiers().testFlag(Qt::ControlModifier) &&
                          !event->modifiers().testFlag(Qt::AltModifier); // both together are AltGr
     if (control && event->key() >= Qt::Key_At && event->key() <= Qt::Key_Underscore)
-        event->accept();
+        event->ignore(); // for the window
     else
         EntryBox::keyPressEvent(event);
+}
+
+void WordBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* action : menu->actions())
+        action->setText(action->text().section('\t', 0, 0)); // its keys do nothing here
+    menu->popup(event->globalPos());
 }

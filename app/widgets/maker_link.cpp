@@ -6,7 +6,6 @@
 #include <QDesktopServices>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QUrl>
 
 namespace {
@@ -26,7 +25,6 @@ MakerLink::MakerLink(double points, QWidget* parent) : QLabel(program::Maker, pa
     LookLikeTheMaker(*this, looks::BoldItalic(looks::Serif, points));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(tr("%1 website").arg(program::Maker));
 }
 
 void MakerLink::OpenMakersPage()
@@ -48,20 +46,12 @@ void MakerLink::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
 }
 
-void MakerLink::paintEvent(QPaintEvent* event)
+void PlaceTrademark(MakerLink& link, const QFont& font)
 {
-    QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter(this);
-    painter.setPen(QPen(looks::MakerRed, 1, Qt::DotLine));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
-QLabel* MakeTrademark(const QFont& font, QWidget* parent)
-{
-    auto* trademark = new QLabel(QStringLiteral("TM"), parent);
+    auto* trademark = new QLabel(QStringLiteral("TM"), link.parentWidget());
     trademark->setObjectName(QStringLiteral("lblTM"));
     LookLikeTheMaker(*trademark, font);
-    return trademark;
+    link.resize(link.sizeHint().width() + 2, link.height());
+    trademark->setGeometry(link.geometry().right() + 1, link.y(), trademark->sizeHint().width(), link.height());
+    trademark->setAlignment(Qt::AlignTop);
 }

@@ -15,8 +15,7 @@ public:
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 };
 
-/// The small "TM" that stands beside a maker's link.
-QLabel* MakeTrademark(const QFont& font, QWidget* parent);
+/// Makes a link that has its place as wide as its text, with a small "TM" beside it.
+void PlaceTrademark(MakerLink& link, const QFont& font);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+/// A ring around the button or link of a client area that has the focus: styles show it faintly, or just as they
+/// show the default button. Boxes and lists show the focus themselves.
+class FocusRing : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FocusRing(QWidget* client);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Follow(const QWidget* now);
+};
