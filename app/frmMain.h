@@ -8,6 +8,7 @@
 #include "generator/workspace.h"
 
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 
@@ -85,6 +86,7 @@ private:
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void ToolbarSave();
+    QDir DocumentFolder() const;
     bool SaveFile(const QString& fileName);
     bool LoadFile(const QString& fileName);
 

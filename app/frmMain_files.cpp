@@ -1,8 +1,11 @@
 #include "app/file_bytes.h"
+#include "app/folders.h"
 #include "app/frmMain.h"
 #include "app/message_boxes.h"
 #include "app/widgets/puzzle_file_dialog.h"
 #include "document/puzzle_file.h"
+
+#include <QFileInfo>
 
 namespace {
 
@@ -15,13 +18,18 @@ void frmMain::mnuOpen_Click()
 {
     if (CheckForSave())
         return;
-    PuzzleFileDialog dlgFileName(QFileDialog::AcceptOpen, {PuzzleFilter}, RememberedName, this);
+    PuzzleFileDialog dlgFileName(QFileDialog::AcceptOpen, {PuzzleFilter}, DocumentFolder(), RememberedName, this);
     const QString fileName = dlgFileName.Choose();
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;
     const bool fileRejected = LoadFile(fileName);
     DocFileName = fileRejected ? QString() : fileName;
+}
+
+QDir frmMain::DocumentFolder() const
+{
+    return DocFileName.isEmpty() ? DocumentsFolder() : QFileInfo(DocFileName).absoluteDir();
 }
 
 void frmMain::mnuSave_Click()
@@ -32,7 +40,8 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    PuzzleFileDialog dlgFileName(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter}, RememberedName, this);
+    PuzzleFileDialog dlgFileName(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter}, DocumentFolder(), RememberedName,
+                                 this);
     const QString fileName = dlgFileName.Choose();
     if (fileName.isEmpty())
         return;

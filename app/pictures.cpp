@@ -11,7 +11,12 @@ namespace pictures {
 QIcon ForToolbar(const QString& name)
 {
     KeepResources();
-    return QIcon(QStringLiteral(":/pictures/%1.png").arg(name));
+    QIcon icon;
+    // As pixmaps, which the toolkit keeps by their names: every icon made of them shares what is kept of them, and no
+    // plug-in is looked for that might draw the file.
+    for (const char* density : {"", "@2x", "@3x"})
+        icon.addPixmap(QPixmap(QStringLiteral(":/pictures/%1%2.png").arg(name, QLatin1String(density))));
+    return icon;
 }
 
 QIcon OfProgram()

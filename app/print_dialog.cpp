@@ -1,21 +1,18 @@
 #include "app/print_dialog.h"
 
+#include "app/folders.h"
 #include "document/file_name.h"
 
-#include <QDir>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QStandardPaths>
 
 namespace {
 
 QString ProposedPdf(const QString& title)
 {
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    const QDir folder = documents.exists() ? documents : QDir::home();
-    return folder.filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
-                           QStringLiteral(".pdf"));
+    return DocumentsFolder().filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
+                                      QStringLiteral(".pdf"));
 }
 
 } // namespace

@@ -14,13 +14,16 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name, QWidget* owner)
+PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder,
+                                   const QString& name, QWidget* owner)
     : QFileDialog(owner)
 {
     setObjectName(QStringLiteral("dlgFileName"));
     setAcceptMode(mode);
     setFileMode(QFileDialog::AnyFile);
+    setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops show none of their own
     setNameFilters(filters);
+    setDirectory(folder);
     if (!name.isEmpty())
         selectFile(name);
 }

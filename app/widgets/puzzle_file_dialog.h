@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QFileDialog>
 
 /// The desktop's dialog for puzzle files, serving both Open and Save As.
@@ -7,8 +8,9 @@ class PuzzleFileDialog : public QFileDialog {
     Q_OBJECT
 
 public:
-    /// `name` is the name or path that the dialog shows at first.
-    PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QString& name, QWidget* owner);
+    /// `name` is the name, in `folder`, or the path that the dialog shows at first.
+    PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+                     QWidget* owner);
 
     /// Runs the dialog. The chosen path as it was given, or empty when the user cancelled or chose a path in
     /// a folder that does not exist.

@@ -68,7 +68,8 @@ void WordList::resizeEvent(QResizeEvent* event)
 {
     QListWidget::resizeEvent(event);
     // A column that fills the height to the last pixel would lose its last row to the next one.
-    setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
+    const int rowHeight = (viewport()->height() - 1) / Rows;
+    setGridSize(QSize(viewport()->width() / Columns, rowHeight));
 }
 
 void WordList::mousePressEvent(QMouseEvent* event)
@@ -109,9 +110,13 @@ void WordList::selectionChanged(const QItemSelection& selected, const QItemSelec
         Choose();
 }
 
-QItemSelectionModel::SelectionFlags WordList::selectionCommand(const QModelIndex& index,
-                                                               const QEvent* /*event*/) const
+/// Ctrl and an arrow key only look around; the blank key then selects.
+QItemSelectionModel::SelectionFlags WordList::selectionCommand(const QModelIndex& index, const QEvent* event) const
 {
+    const bool looksAround = event != nullptr && event->type() == QEvent::KeyPress &&
+                             static_cast<const QKeyEvent*>(event)->modifiers().testFlag(Qt::ControlModifier);
+    if (looksAround)
+        return QItemSelectionModel::NoUpdate;
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
