@@ -10,6 +10,7 @@ int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(program::Name);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.tallowick.Glyphgrove")); // for its icon, on Wayland
     QApplication::setWindowIcon(pictures::OfProgram());
 
     KeepNoSettings();
