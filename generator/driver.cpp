@@ -1,30 +1,23 @@
 #include "generator/workspace.h"
 
+#include <algorithm>
+
 namespace generator {
-
-namespace {
-
-constexpr int MissesBeforeRestart = 50;
-constexpr int PassesPerSize = 6;
-
-} // namespace
 
 void PuzzleWorkspace::LoadPuzzleArray()
 {
+    constexpr int PassesPerSize = 6;
     SetPuzzleSize();
     Arranged = Arrangement::Searched;
-    int passes = 1;
-    while (!PlaceAllWords()) {
+    for (int pass = 1; !PlaceAllWords(); ++pass) {
         ClearPuzzleArray();
-        if (passes < PassesPerSize) {
-            ++passes;
-        } else if (PuzzleSize < MaxPuzzleSize) {
-            ++PuzzleSize;
-            passes = 1;
-        } else {
+        if (pass % PassesPerSize != 0)
+            continue;
+        if (PuzzleSize == MaxPuzzleSize) {
             ArrangeDensely();
             break;
         }
+        ++PuzzleSize;
     }
     FillPuzzle();
 }
@@ -44,6 +37,7 @@ bool PuzzleWorkspace::PlaceAllWords()
 /// used. A word that fills all its slots leaves the misses standing for the words after it.
 bool PuzzleWorkspace::PlaceWord(int& missCount)
 {
+    constexpr int MissesBeforeRestart = 50;
     for (;; ++missCount) {
         TakeWord(WordIndex);
         InsertionPointAndDirection();
@@ -62,10 +56,12 @@ bool PuzzleWorkspace::PlaceWord(int& missCount)
     return true;
 }
 
+/// An entry longer than MaxWordLength has no letter and takes no cell: cut to that, it finds room in every grid.
 void PuzzleWorkspace::TakeWord(int word)
 {
     CurrentWord = word;
     DetermineWordLength();
+    WordLength = std::min(WordLength, wordlist::MaxWordLength);
 }
 
 void PuzzleWorkspace::WriteWord()

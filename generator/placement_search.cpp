@@ -1,5 +1,6 @@
-#include "generator/directions.h"
 #include "generator/workspace.h"
+
+#include <algorithm>
 
 namespace generator {
 
@@ -27,17 +28,14 @@ void PuzzleWorkspace::RandomStartingPoint()
 
 void PuzzleWorkspace::TestWordForFit()
 {
-    const auto [firstRow, lastRow] = Starts(StepOf(Direction).row);
-    const auto [firstColumn, lastColumn] = Starts(StepOf(Direction).column);
-    WordFits = firstRow <= CurrentRow && CurrentRow <= lastRow && firstColumn <= CurrentColumn &&
-               CurrentColumn <= lastColumn;
+    const auto fits = [this](int at, int step) { return Starts(step).first <= at && at <= Starts(step).second; };
+    WordFits = fits(CurrentRow, StepOf(Direction).row) && fits(CurrentColumn, StepOf(Direction).column);
 }
 
-/// The first and the last row or column from which the word keeps inside: the cell after its last must still be in
-/// the grid, so that no letter stands on the border towards which it runs.
+/// The first and the last row, or column, from which the cell after the word's last is still inside.
 std::pair<int, int> PuzzleWorkspace::Starts(int step) const
 {
-    return {step < 0 ? 1 + WordLength : 1, step > 0 ? PuzzleSize - WordLength : PuzzleSize};
+    return {std::max(1, 1 - step * WordLength), std::min(PuzzleSize, PuzzleSize - step * WordLength)};
 }
 
 void PuzzleWorkspace::CurrentDirection()
@@ -59,9 +57,7 @@ void PuzzleWorkspace::PseudoLoadPuzzleArray()
     const auto move = [this] { PseudoCurrentDirection(); };
     WalkWord(PseudoWord, PseudoLetter, move, [&](char letter) {
         const char cell = PuzzleArray(PseudoRow, PseudoColumn);
-        if (cell != Empty)
-            SharedLetters = cell == letter ? SharedLetters + 1 : 2;
-        PseudoFits = SharedLetters < 2;
+        PseudoFits = cell == Empty || (cell == letter && ++SharedLetters == 1);
         return PseudoFits;
     });
 }

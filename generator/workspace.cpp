@@ -6,39 +6,19 @@
 
 namespace generator {
 
-using wordlist::MaxWordLength;
-using wordlist::MaxWords;
-
 void PuzzleWorkspace::LoadWordsArray(std::span<const std::u16string> words)
 {
-    LetterCount = 0;
-    LongestWord = 0;
+    LetterCount = LongestWord = 0;
     EntryLengths.fill(0);
     int word = 0;
-    for (const std::u16string& entry : words.first(std::min<std::size_t>(words.size(), MaxWords))) {
-        ++word;
-        EntryLengths.at(static_cast<std::size_t>(word)) = static_cast<int>(entry.size());
+    for (const std::u16string& entry : words.first(std::min<std::size_t>(words.size(), wordlist::MaxWords))) {
+        EntryLengths.at(static_cast<std::size_t>(++word)) = static_cast<int>(entry.size());
         int slot = 0;
-        for (const char16_t character : entry.substr(0, MaxWordLength))
+        for (const char16_t character : entry.substr(0, wordlist::MaxWordLength))
             WordsArray(word, ++slot) = wordlist::GridLetter(character).value_or(Blank);
         LongestWord = std::max(LongestWord, slot);
         LetterCount += slot;
     }
-}
-
-void PuzzleWorkspace::ClearWordsArray()
-{
-    WordsArray.Clear();
-}
-
-void PuzzleWorkspace::ClearPuzzleArray()
-{
-    PuzzleArray.Clear(PuzzleSize, PuzzleSize);
-}
-
-void PuzzleWorkspace::DetermineWordLength()
-{
-    WordLength = EntryLengths.at(static_cast<std::size_t>(CurrentWord));
 }
 
 void PuzzleWorkspace::SetPuzzleSize()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "generator/directions.h"
 #include "generator/letter_table.h"
 #include "generator/random_source.h"
 #include "wordlist/limits.h"
@@ -63,11 +64,11 @@ public:
     /// Stores the entries of the word list, letters as capitals and everything else as Blank. Characters after an
     /// entry's 20th and entries after the 40th are left out; check a list with ObstacleToPuzzle first.
     void LoadWordsArray(std::span<const std::u16string> words);
-    void ClearWordsArray();
+    void ClearWordsArray() { WordsArray.Clear(); }
     /// Empties the cells 1..PuzzleSize and no other.
-    void ClearPuzzleArray();
+    void ClearPuzzleArray() { PuzzleArray.Clear(PuzzleSize, PuzzleSize); }
     /// WordLength becomes the length of CurrentWord's entry, 0 where the list has none.
-    void DetermineWordLength();
+    void DetermineWordLength() { WordLength = EntryLengths.at(static_cast<std::size_t>(CurrentWord)); }
     /// PuzzleSize becomes the smallest n of 10..30 whose square holds 1.75 times the letters, but always larger than
     /// the longest word.
     void SetPuzzleSize();
@@ -129,13 +130,13 @@ template <class Move, class Visit>
 void PuzzleWorkspace::WalkWord(int word, int& slot, Move move, Visit visit) const
 {
     bool first = true;
-    for (slot = 1; slot <= wordlist::MaxWordLength; ++slot) {
+    for (slot = 1; slot <= wordlist::MaxWordLength && WordsArray(word, slot) != Empty; ++slot) {
         const char letter = WordsArray(word, slot);
         if (letter == Blank)
             continue;
-        if (letter != Empty && !std::exchange(first, false))
+        if (!std::exchange(first, false))
             move();
-        if (letter == Empty || !visit(letter))
+        if (!visit(letter))
             return;
     }
 }
