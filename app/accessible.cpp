@@ -1,5 +1,6 @@
 #include "app/accessible.h"
 
+#include "app/widgets/focus_ring.h"
 #include "app/widgets/maker_link.h"
 #include "app/widgets/puzzle_surface.h"
 
@@ -79,6 +80,33 @@ private:
     mutable std::map<int, QAccessible::Id> Rows; ///< those asked for so far
 };
 
+/// A client area tells of what is to be seen in it: neither of hidden controls nor of the ring around the focus.
+class SeenControls : public QAccessibleWidget {
+public:
+    explicit SeenControls(QWidget* client) : QAccessibleWidget(client, QAccessible::Client) {}
+
+    int childCount() const override { return static_cast<int>(Seen().size()); }
+    QAccessibleInterface* child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(Seen().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return static_cast<int>(Seen().indexOf(child->object()));
+    }
+
+private:
+    QObjectList Seen() const
+    {
+        QObjectList seen = widget()->children();
+        seen.removeIf([](const QObject* child) {
+            const auto* control = qobject_cast<const QWidget*>(child);
+            return control == nullptr || control->isHidden() || qobject_cast<const FocusRing*>(child) != nullptr;
+        });
+        return seen;
+    }
+};
+
 class PressableLink : public QAccessibleWidget {
 public:
     explicit PressableLink(MakerLink* link)
@@ -102,6 +130,8 @@ QAccessibleInterface* Describe(const QString& /*className*/, QObject* object)
         return new GridOfLetters(surface);
     if (auto* link = qobject_cast<MakerLink*>(object))
         return new PressableLink(link);
+    if (object->objectName() == QLatin1String("client"))
+        return new SeenControls(qobject_cast<QWidget*>(object));
     return nullptr;
 }
 

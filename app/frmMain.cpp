@@ -27,7 +27,7 @@ constexpr int TitleRow = 1260;
 constexpr int WordRow = 1770;
 constexpr int ListHeadRow = 2385;
 constexpr int ListTop = 2835;
-constexpr int ListHeight = 2895;
+constexpr int ListHeight = 2925;
 constexpr int BottomRow = 5895;
 
 } // namespace
@@ -168,7 +168,7 @@ void frmMain::BuildMakerLink()
     auto* lblTallowick = new MakerLink(9.75, Client);
     lblTallowick->setObjectName(QStringLiteral("lblTallowick"));
     lblTallowick->setToolTip(tr("Click to go to the Tallowick website."));
-    Place(*lblTallowick, Margin, BottomRow + 60, 0, 270);
+    Place(*lblTallowick, Margin, BottomRow + 60, 0, 0);
     PlaceTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25));
 }
 

@@ -7,6 +7,8 @@
 #include "view/grid_drawing.h"
 #include "wordlist/limits.h"
 
+#include <QApplication>
+
 void frmMain::cmdCreatePuzzle_Click()
 {
     CheckForSave(); // whatever the answer
@@ -43,6 +45,8 @@ void frmMain::ComeBack()
     show();
     if (FocusBeforePuzzle != nullptr)
         FocusBeforePuzzle->setFocus();
+    if (QApplication::activeModalWidget() == nullptr)
+        Puzzle.release()->deleteLater(); // with a dialog above it, as at the end of a session, it has to stay
 }
 
 void frmMain::DrawToPictureBox()

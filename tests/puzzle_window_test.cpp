@@ -92,6 +92,10 @@ private slots:
     void SpeaksToAssistiveTechnology()
     {
         Run("word:CAT pick:0 no create");
+        auto* client = QAccessible::queryAccessibleInterface(&Find<QWidget>(*ShownWindow("frmPuzzle"), "client"));
+        QCOMPARE(client->childCount(), 4); // toolbar, title, grid and the only word
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(client->indexOfChild(client->child(i)), i);
         Window->show();
         for (const QWidget* window : {static_cast<QWidget*>(Window.get()), ShownWindow("frmPuzzle")})
             for (QWidget* control : window->findChildren<QWidget*>(QRegularExpression("^(lbl|txt|cmd|lst|pct)")))

@@ -66,12 +66,11 @@ void ClientWindow::FitToScreen()
 
 bool ClientWindow::event(QEvent* event)
 {
-    const bool handled = QMainWindow::event(event);
     if (!FrameKnown && isVisible() && frameGeometry() != geometry()) {
         FrameKnown = true;
         FitToScreen();
     }
-    return handled;
+    return QMainWindow::event(event);
 }
 
 /// The border is a fixed one, even where the window must be able to grow.

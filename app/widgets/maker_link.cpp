@@ -51,7 +51,7 @@ void PlaceTrademark(MakerLink& link, const QFont& font)
     auto* trademark = new QLabel(QStringLiteral("TM"), link.parentWidget());
     trademark->setObjectName(QStringLiteral("lblTM"));
     LookLikeTheMaker(*trademark, font);
-    link.resize(link.sizeHint().width() + 2, link.height());
+    link.resize(link.sizeHint() + QSize(2, 0));
     trademark->setGeometry(link.geometry().right() + 1, link.y(), trademark->sizeHint().width(), link.height());
     trademark->setAlignment(Qt::AlignTop);
 }

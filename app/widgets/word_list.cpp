@@ -22,6 +22,9 @@ WordList::WordList(QWidget* parent) : QListWidget(parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setDragDropMode(QAbstractItemView::NoDragDrop);
+    setViewportMargins(1, 1, 1, 1); // at fractional scales the entries' ground would cover the border
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
 }
 
 std::vector<std::u16string> WordList::Words() const
@@ -37,6 +40,7 @@ void WordList::Insert(int position, const QString& word)
     auto* entry = new QListWidgetItem(word);
     // A word may be cut short by its column. The tags make sure of a rich text, which shows the escaped one.
     entry->setToolTip(QStringLiteral("<span>%1</span>").arg(word.toHtmlEscaped()));
+    entry->setSizeHint(gridSize());
     insertItem(position, entry);
     // Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
     if (count() > Columns * Rows)
@@ -68,8 +72,9 @@ void WordList::resizeEvent(QResizeEvent* event)
 {
     QListWidget::resizeEvent(event);
     // A column that fills the height to the last pixel would lose its last row to the next one.
-    const int rowHeight = (viewport()->height() - 1) / Rows;
-    setGridSize(QSize(viewport()->width() / Columns, rowHeight));
+    setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
+    for (int i = 0; i < count(); ++i)
+        item(i)->setSizeHint(gridSize()); // else it stands at its cell's top
 }
 
 void WordList::mousePressEvent(QMouseEvent* event)
