@@ -60,9 +60,10 @@ void frmMain::BuildMenus()
     mnuFile->setObjectName(QStringLiteral("mnuFile"));
     AddCommand(mnuFile, "mnuOpen", tr("&Open"), QKeySequence::Open, &frmMain::mnuOpen_Click);
     mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), QKeySequence::Save, &frmMain::mnuSave_Click);
-    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), QKeySequence::SaveAs, &frmMain::mnuSaveAs_Click);
+    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), QKeySequence::SaveAs, &frmMain::mnuSaveAs_Click,
+                           Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     AddCommand(mnuFile, "mnuNewPuzzle", tr("&New Puzzle"), QKeySequence::New, &frmMain::mnuNewPuzzle_Click);
-    AddCommand(mnuFile, "mnuExit", tr("&Quit"), QKeySequence::Quit, &frmMain::mnuExit_Click);
+    AddCommand(mnuFile, "mnuExit", tr("&Quit"), QKeySequence::Quit, &frmMain::mnuExit_Click, Qt::CTRL | Qt::Key_Q);
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     QMenu* mnuHelp = menuBar()->addMenu(tr("&Help"));
@@ -70,12 +71,15 @@ void frmMain::BuildMenus()
     AddCommand(mnuHelp, "mnuAbout", tr("&About"), QKeySequence::HelpContents, &frmMain::mnuAbout_Click);
 }
 
+/// `elsewhere`: the keys on desktops that have none for it.
 QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
-                             void (frmMain::*command)())
+                             void (frmMain::*command)(), const QKeySequence& elsewhere)
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
     action->setShortcuts(keys);
+    if (action->shortcuts().isEmpty())
+        action->setShortcut(elsewhere);
     // Queued: who asks for the command by other means than a click need not wait for the dialogs that it opens.
     connect(action, &QAction::triggered, this, command, Qt::QueuedConnection);
     return action;

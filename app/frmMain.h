@@ -37,7 +37,7 @@ private:
     // Controls, start-up, becoming active, toolbar, maker link (frmMain.cpp).
     void BuildMenus();
     QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
-                        void (frmMain::*command)());
+                        void (frmMain::*command)(), const QKeySequence& elsewhere = {});
     void BuildToolbar();
     void BuildTitle();
     void BuildWordEntry();

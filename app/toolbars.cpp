@@ -11,7 +11,7 @@ QToolBar* MakeToolbar(const QString& name, const QString& accessibleName,
     auto* toolbar = new QToolBar(client);
     toolbar->setObjectName(name);
     toolbar->setAccessibleName(accessibleName);
-    toolbar->layout()->setContentsMargins(4, 0, 4, 0); // room for pictures of their full size
+    toolbar->layout()->setContentsMargins({}); // room for pictures of their full size
     toolbar->setIconSize(QSize(16, 16));
     toolbar->setMovable(false);
     toolbar->setFloatable(false);

@@ -1,6 +1,7 @@
 #include "tests/support/window_script.h"
 
 #include <QClipboard>
+#include <QFileDialog>
 #include <QInputMethodEvent>
 
 class MainWindowTest : public WindowScript {
@@ -115,9 +116,10 @@ private slots:
     /// The dialogs open with the name that they remember.
     void ProposesNames()
     {
-        QStringList proposed;
-        const auto note = [&proposed](QDialog& dialog) {
+        QStringList proposed, filters;
+        const auto note = [&](QDialog& dialog) {
             proposed += Find<QLineEdit>(dialog, "fileNameEdit").text();
+            filters += qobject_cast<QFileDialog*>(&dialog)->nameFilters().join('|') + ' ' + dialog.windowTitle();
             dialog.reject();
         };
         const auto ask = [&](const char* steps) { Answering.Expect(note), Run(steps); };
@@ -129,7 +131,8 @@ private slots:
         Run("menu:fn");
         ask("menu:fo");
         QCOMPARE(proposed, QStringList({"", "good.pux", "Pets", "Pets", ""}));
-        Answering.Shown();
+        QCOMPARE(filters.at(0), "Glyphgrove Files (*.pux) Open");
+        QCOMPARE(filters.at(2), "Glyphgrove Files (*.pux)|All File (*.*) Save As");
     }
 
     /// The left button and the keyboard choose, an entry that is selected already too; other buttons do nothing.

@@ -3,6 +3,7 @@
 #include "tests/support/puzzles.h"
 #include "tools/script.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QWindow>
 #include <QtTest>
@@ -58,6 +59,38 @@ protected:
         return state.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
     }
 
+    /// What is to be seen of a window's named controls: name, place and size in pixels, font where it is not the
+    /// interface's, text colour, ground where it has one of its own, text, tip.
+    static QStringList Looks(const QWidget& window)
+    {
+        QStringList looks;
+        for (const QWidget* control : window.findChildren<QWidget*>()) {
+            static const QRegularExpression ours("^(lbl|txt|cmd|lst|pct|.*Toolbar|client)");
+            if (!ours.match(control->objectName()).hasMatch() || control->isHidden())
+                continue;
+            const QRect place(control->mapTo(control->window(), QPoint()), control->size());
+            QString look = QString("%1 %2,%3 %4x%5")
+                               .arg(control->objectName())
+                               .arg(place.x())
+                               .arg(place.y())
+                               .arg(place.width())
+                               .arg(place.height());
+            if (const QFont font = control->font(); font != QApplication::font())
+                look += QString(" %1 %2%3")
+                            .arg(font.family())
+                            .arg(font.pointSizeF())
+                            .arg(font.bold() && font.italic() ? " bold italic" : "");
+            look += ' ' + control->palette().color(control->foregroundRole()).name();
+            if (control->autoFillBackground())
+                look += " on " + control->palette().color(control->backgroundRole()).name();
+            for (const char* property : {"text", "toolTip"})
+                if (const QString text = control->property(property).toString(); !text.isEmpty())
+                    look += " \"" + text + '"';
+            looks += look;
+        }
+        return looks;
+    }
+
     /// The boxes and dialogs that came since the last call, by short names; a text that differs stays as it
     /// is.
     QString Boxes()
@@ -104,6 +137,7 @@ private slots:
         WriteFile("long.pux", "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
         WriteFile("many.pux", "\"2.2\"\r\n\"M\"\r\n" + QByteArray("W\r\n").repeated(41));
         WriteFile("full.pux", "\"2.2\"\r\n\"F\"\r\n" + QByteArray("W\r\n").repeated(40));
+        Answering.Shown();
         Start(FixedRandom(1));
     }
 
