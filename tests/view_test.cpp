@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 
 namespace {
 
@@ -75,6 +76,29 @@ generator::PuzzleWorkspace Grid(int size)
     return workspace;
 }
 
+/// The page of a grid of `size`: `left` and `last` are the places of its first column and its last row, `sizes` those
+/// of the font that are tried for it.
+void ComposesGrid(int size, double step, double left, double last, const QStringList& sizes)
+{
+    Recorder printer;
+    const auto grid = Grid(size);
+    QVERIFY(view::PrintPage(printer, u"T", {}, grid));
+    QCOMPARE(printer.Ended, 1);
+    QStringList fonts{"Times New Roman 26 bold italic", "Times New Roman 11"};
+    for (const QString& points : sizes)
+        fonts += "Courier New " + points;
+    QCOMPARE(printer.Fonts, fonts);
+    QCOMPARE(printer.Texts.size(), static_cast<std::size_t>(size * size + 1));
+    for (int cell = 0; cell < size * size; ++cell) {
+        const auto& text = printer.Texts.at(static_cast<std::size_t>(cell + 1));
+        QCOMPARE(text.x, left + cell % size * step);
+        QCOMPARE(text.y, 5718 + cell / size * step);
+        QCOMPARE(text.text,
+                 std::u16string{static_cast<char16_t>(grid.PuzzleArray(cell / size + 1, cell % size + 1))});
+    }
+    QCOMPARE(printer.Texts.back().y, last);
+}
+
 } // namespace
 
 class ViewTest : public QObject {
@@ -83,17 +107,10 @@ class ViewTest : public QObject {
 private slots:
     void RoundsHalvesToEven()
     {
-        for (const auto& [value, rounded] : std::initializer_list<std::pair<double, double>>{{0.5, 0},
-                                                                                             {1.5, 2},
-                                                                                             {2.5, 2},
-                                                                                             {-0.5, 0},
-                                                                                             {-1.5, -2},
-                                                                                             {-2.5, -2},
-                                                                                             {2344.5, 2344},
-                                                                                             {1.4, 1},
-                                                                                             {-1.4, -1},
-                                                                                             {1.6, 2}})
-            QCOMPARE(view::RoundHalfToEven(value), rounded);
+        const std::map<double, double> rounded{{0.5, 0},   {1.5, 2}, {2.5, 2},   {-0.5, 0}, {-1.5, -2},
+                                               {-2.5, -2}, {1.4, 1}, {-1.4, -1}, {1.6, 2},  {2344.5, 2344}};
+        for (const auto& [value, whole] : rounded)
+            QCOMPARE(view::RoundHalfToEven(value), whole);
     }
 
     void LaysOutTheGrid()
@@ -118,85 +135,47 @@ private slots:
         QVERIFY(view::LayOutGrid(generator::PuzzleWorkspace(), 7815).empty());
     }
 
-    void ComposesTheGrid_data()
-    {
-        QTest::addColumn<int>("size");
-        QTest::addColumn<double>("step");
-        QTest::addColumn<QString>("fonts"); // after the title's and the words'
-        QTest::addColumn<double>("left");
-        QTest::addColumn<double>("lastRow");
-        // Halves of the margins go to the even neighbour: (11906 - 8631) / 2 = 1637.5.
-        QTest::newRow("10") << 10 << 560.0 << "Courier New 21.6|Courier New 14" << 3153.0 << 10758.0;
-        QTest::newRow("15") << 15 << 560.0 << "Courier New 14.4|Courier New 14" << 1753.0 << 13558.0;
-        QTest::newRow("16") << 16 << 540.0 << "Courier New 13.5" << 1633.0 << 13818.0;
-        QTest::newRow("17") << 17 << 508.0 << "Courier New 12.7" << 1635.0 << 13846.0;
-        QTest::newRow("21") << 21 << 411.0 << "Courier New 10.275" << 1638.0 << 13938.0;
-        QTest::newRow("25") << 25 << 346.0 << "Courier New 8.65" << 1628.0 << 14022.0;
-        QTest::newRow("30") << 30 << 288.0 << "Courier New 7.2" << 1633.0 << 14070.0;
-    }
-
     void ComposesTheGrid()
     {
-        QFETCH(int, size);
-        QFETCH(double, step);
-        QFETCH(QString, fonts);
-        QFETCH(double, left);
-        QFETCH(double, lastRow);
-        Recorder printer;
-        const auto grid = Grid(size);
-        QVERIFY(view::PrintPage(printer, u"T", {}, grid));
-        QCOMPARE(printer.Ended, 1);
-        QCOMPARE(printer.Fonts.mid(0, 2), QStringList({"Times New Roman 26 bold italic", "Times New Roman 11"}));
-        QCOMPARE(printer.Fonts.mid(2).join('|'), fonts);
-        QCOMPARE(printer.Texts.size(), static_cast<std::size_t>(size * size + 1));
-        for (int cell = 0; cell < size * size; ++cell) {
-            const auto& text = printer.Texts.at(static_cast<std::size_t>(cell + 1));
-            QCOMPARE(text.x, left + cell % size * step);
-            QCOMPARE(text.y, 5718 + cell / size * step);
-            QCOMPARE(text.text, std::u16string(1, static_cast<unsigned char>(
-                                                      grid.PuzzleArray(cell / size + 1, cell % size + 1))));
-        }
-        QCOMPARE(printer.Texts.back().y, lastRow);
-    }
-
-    void ComposesTitleWordsAndBox_data()
-    {
-        QTest::addColumn<int>("words");
-        QTest::addColumn<bool>("wholePoints");
-        QTest::addColumn<double>("width");
-        for (const int words : {0, 1, 10, 11, 40})
-            for (const double width : {11906.0, 12240.0, 300.0})
-                QTest::addRow("%d on %g", words, width) << words << (width == 12240.0) << width;
+        // Halves of the margins go to the even neighbour: (11906 - 8631) / 2 = 1637.5.
+        ComposesGrid(10, 560, 3153, 10758, {"21.6", "14"});
+        ComposesGrid(15, 560, 1753, 13558, {"14.4", "14"});
+        ComposesGrid(16, 540, 1633, 13818, {"13.5"});
+        ComposesGrid(17, 508, 1635, 13846, {"12.7"});
+        ComposesGrid(21, 411, 1638, 13938, {"10.275"});
+        ComposesGrid(25, 346, 1628, 14022, {"8.65"});
+        ComposesGrid(30, 288, 1633, 14070, {"7.2"});
     }
 
     void ComposesTitleWordsAndBox()
     {
-        QFETCH(int, words);
-        QFETCH(bool, wholePoints);
-        QFETCH(double, width);
-        Recorder printer;
-        printer.Width = width;
-        printer.WholePoints = wholePoints;
-        Words list;
-        for (int i = 0; i < words; ++i)
-            list.emplace_back(static_cast<std::size_t>(i % 20 + 1), u'W');
-        QVERIFY(view::PrintPage(printer, u"Animals", list, Grid(10)));
-        QCOMPARE(printer.Texts[0].x, width / 2 - 7 * 260.25 / 2);
-        QCOMPARE(printer.Texts[0].y, 720.0);
-        // The widest words of the first three columns have 10, 20 and 10 letters of 110.25 twips.
-        const std::array<double, 4> columns{720, 720 + 1102 + 1080, 2902 + 2205 + 1080, 6187 + 1102 + 1080};
-        for (int i = 0; i < words; ++i) {
-            const auto& text = printer.Texts.at(static_cast<std::size_t>(i + 1));
-            QCOMPARE(text.text, list.at(static_cast<std::size_t>(i)));
-            QCOMPARE(text.x, columns.at(static_cast<std::size_t>(i / 10)));
-            QCOMPARE(text.y, 1800.0 + i % 10 * 330);
-        }
-        const double right = width - 504;
-        const std::vector<std::array<double, 4>> box{{504, 1584, right, 1584},
-                                                     {right, 1584, right, 5214.3},
-                                                     {right, 5214.3, 504, 5214.3},
-                                                     {504, 5214.3, 504, 1584}};
-        QCOMPARE(printer.Lines, box);
+        for (const std::size_t words : {0, 1, 10, 11, 40})
+            for (const double width : {11906.0, 12240.0, 300.0}) {
+                Recorder printer;
+                printer.Width = width;
+                printer.WholePoints = width == 12240.0;
+                Words list;
+                for (std::size_t i = 0; i < words; ++i)
+                    list.emplace_back(i % 20 + 1, u'W');
+                QVERIFY(view::PrintPage(printer, u"Animals", list, Grid(10)));
+                QCOMPARE(printer.Texts[0].x, width / 2 - 7 * 260.25 / 2);
+                QCOMPARE(printer.Texts[0].y, 720.0);
+                // The widest words of the first three columns have 10, 20 and 10 letters of 110.25 twips.
+                const std::array<double, 4> columns{720, 720 + 1102 + 1080, 2902 + 2205 + 1080, 6187 + 1102 + 1080};
+                for (std::size_t i = 0; i < words; ++i) {
+                    const auto& text = printer.Texts.at(i + 1);
+                    QCOMPARE(text.text, list[i]);
+                    QCOMPARE(text.x, columns.at(i / 10));
+                    QCOMPARE(text.y, 1800.0 + static_cast<double>(i % 10) * 330);
+                }
+                const double right = width - 504;
+                const double bottom = 5214.3;
+                const std::vector<std::array<double, 4>> box{{504, 1584, right, 1584},
+                                                             {right, 1584, right, bottom},
+                                                             {right, bottom, 504, bottom},
+                                                             {504, bottom, 504, 1584}};
+                QCOMPARE(printer.Lines, box);
+            }
     }
 
     void FollowsASizeThatThePrinterRounds()

@@ -44,8 +44,8 @@ inline Words RandomWords(generator::RandomSource& random, int count, int length,
     return words;
 }
 
-/// A list within the limits in one of the shapes that have their own difficulties: any lengths, blanks inside
-/// and at the end, equal words, one repeated letter, palindromes, few letters, nothing at all.
+/// A list within the limits in one of the shapes that have their own difficulties: any lengths, blanks inside and at
+/// the end, equal words, one repeated letter, palindromes, few letters, entries of blanks alone, nothing at all.
 inline Words AnyList(generator::RandomSource& random)
 {
     const int shape = random.DrawBelow(8);
@@ -59,6 +59,8 @@ inline Words AnyList(generator::RandomSource& random)
             word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1, u' ');
         if (shape == 2)
             word = words.front();
+        if (shape == 6 && random.DrawBelow(4) == 0)
+            word.assign(word.size(), u' ');
         if (shape == 4) {
             word.resize(std::min<std::size_t>(word.size(), 10));
             word += std::u16string(word.rbegin(), word.rend());
