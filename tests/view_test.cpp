@@ -139,6 +139,7 @@ private slots:
     {
         // Halves of the margins go to the even neighbour: (11906 - 8631) / 2 = 1637.5.
         ComposesGrid(10, 560, 3153, 10758, {"21.6", "14"});
+        ComposesGrid(11, 560, 2873, 11318, {"19.625", "14"});
         ComposesGrid(15, 560, 1753, 13558, {"14.4", "14"});
         ComposesGrid(16, 540, 1633, 13818, {"13.5"});
         ComposesGrid(17, 508, 1635, 13846, {"12.7"});

@@ -1,5 +1,6 @@
 #include "tests/support/puzzles.h"
 #include "wordlist/entry.h"
+#include "wordlist/letters.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
 
@@ -51,6 +52,8 @@ private slots:
                  "ABCDEFGHIJKLMNOPQRSTU-1"); // too long from a file, a letter less
         QCOMPARE(becomes("AAA", "AAAA", Typed), "AAAA");
         QCOMPARE(becomes("CAT", "", Typed), "");
+        QCOMPARE(becomes("ABAB", "AB", Typed), "AB");
+        QCOMPARE(becomes("", "@AZ[`az{", Pasted), "AZaz");
     }
 
     void InsertsInAlphabeticalOrder()
@@ -80,6 +83,15 @@ private slots:
             QVERIFY(wordlist::InsertPosition(RandomWords(random, 9, 3), word) <= 9);
     }
 
+    void SpellsLettersForTheGrid()
+    {
+        QString letters;
+        for (const char16_t character : std::u16string(u"@AZ[`az{\u00BF\u00C0\u00D7\u00DE\u00FF\u0100"
+                                                       u"\u0152\u0153\u0160\u0161\u0178\u017D\u017E\u0192"))
+            letters += wordlist::GridLetter(character).value_or('.');
+        QCOMPARE(letters, ".AZ..AZ..A.TY.OOSSYZZF");
+    }
+
     void NamesWhatKeepsAListFromAPuzzle()
     {
         using wordlist::ObstacleToPuzzle;
@@ -97,6 +109,9 @@ private slots:
         many.insert(many.end(), {u"DOG", u"FOX"});
         QVERIFY(tells(many, "holds 42 words, and a puzzle has room for 40. Please remove 2"));
         QVERIFY(tells(many, "\"DOG\", \"FOX\""));
+        QVERIFY(tells(Words(56, u"CAT"), "\"CAT\" and 1 more"));
+        QVERIFY(tells(Words{std::u16string(40, u'A'), std::u16string(41, u'B')},
+                      "AA\", \"" + QString(40, 'B') + "\u2026"));
         // The message fits a screen whatever the file brings.
         const auto longest = ObstacleToPuzzle(Words(101, std::u16string(60'000, u'\n')));
         QVERIFY(longest && longest->size() < 4000);
