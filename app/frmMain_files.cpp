@@ -18,8 +18,8 @@ void frmMain::mnuOpen_Click()
 {
     if (CheckForSave())
         return;
-    PuzzleFileDialog dlgFileName(QFileDialog::AcceptOpen, {PuzzleFilter}, DocumentFolder(), RememberedName, this);
-    const QString fileName = dlgFileName.Choose();
+    const QString fileName =
+        PuzzleFileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFilter}, DocumentFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;
@@ -40,9 +40,8 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    PuzzleFileDialog dlgFileName(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter}, DocumentFolder(), RememberedName,
-                                 this);
-    const QString fileName = dlgFileName.Choose();
+    const QString fileName = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter},
+                                                   DocumentFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;

@@ -1,6 +1,7 @@
 #include "app/print_dialog.h"
 
 #include "app/folders.h"
+#include "app/widgets/puzzle_file_dialog.h"
 #include "document/file_name.h"
 
 #include <QPrintDialog>
@@ -9,21 +10,40 @@
 
 namespace {
 
+const QString DialogName = QStringLiteral("PrinterDialog");
+
 QString ProposedPdf(const QString& title)
 {
     return DocumentsFolder().filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
                                       QStringLiteral(".pdf"));
 }
 
+#ifdef Q_OS_WIN
+/// Where there is no printer: this desktop's print dialog knows nothing else.
+bool AskForPdf(QPrinter& printer, QWidget& owner)
+{
+    const QString path = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {QStringLiteral("PDF Files (*.pdf)")},
+                                               DocumentsFolder(), ProposedPdf(printer.docName()), &owner, DialogName);
+    printer.setOutputFileName(path);
+    printer.setOutputFormat(QPrinter::PdfFormat); // whatever the name
+    return !path.isEmpty();
+}
+#endif
+
 } // namespace
 
 bool RunPrintDialog(QPrinter& printer, QWidget& owner)
 {
+#ifdef Q_OS_WIN
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        return AskForPdf(printer, owner);
+#else
     printer.setOutputFileName(ProposedPdf(printer.docName()));
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
         printer.setOutputFormat(QPrinter::NativeFormat); // the file is only proposed
+#endif
     QPrintDialog dialog(&printer, &owner);
-    dialog.setObjectName(QStringLiteral("PrinterDialog"));
+    dialog.setObjectName(DialogName);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
     dialog.setMinMax(1,

@@ -101,6 +101,10 @@ Answers::Answer Dismiss()
 Answers::Answer PrintTo(const QString& path)
 {
     return [path](QDialog& dialog) {
+        if (qobject_cast<QFileDialog*>(&dialog) != nullptr) { // all that some desktops ask without a printer
+            ChooseFile(path)(dialog);
+            return;
+        }
         Find<QLineEdit>(dialog, "filename").setText(path);
         for (QPushButton* button : dialog.findChildren<QPushButton*>())
             if (button->text().remove('&') == "Print")

@@ -1,7 +1,11 @@
 #include "app/widgets/puzzle_file_dialog.h"
 
 #include "app/message_boxes.h"
+#ifdef Q_OS_WIN
+#include "app/platform_windows.h"
+#endif
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -18,7 +22,6 @@ PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, 
                                    const QString& name, QWidget* owner)
     : QFileDialog(owner)
 {
-    setObjectName(QStringLiteral("dlgFileName"));
     setAcceptMode(mode);
     setFileMode(QFileDialog::AnyFile);
     setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops show none of their own
@@ -26,6 +29,18 @@ PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, 
     setDirectory(folder);
     if (!name.isEmpty())
         selectFile(name);
+}
+
+QString PuzzleFileDialog::Ask(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+                              QWidget* owner, const QString& objectName)
+{
+#ifdef Q_OS_WIN
+    if (!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs))
+        return platform_windows::AskForFile(mode, filters, folder, name, *owner);
+#endif
+    PuzzleFileDialog dialog(mode, filters, folder, name, owner);
+    dialog.setObjectName(objectName);
+    return dialog.Choose();
 }
 
 QString PuzzleFileDialog::Choose()

@@ -12,6 +12,11 @@ public:
     PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
                      QWidget* owner);
 
+    /// Runs a dialog of these, the desktop's own where it has one that does the same. The chosen path, or empty as
+    /// below.
+    static QString Ask(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+                       QWidget* owner, const QString& objectName = QStringLiteral("dlgFileName"));
+
     /// Runs the dialog. The chosen path as it was given, or empty when the user cancelled or chose a path in
     /// a folder that does not exist.
     QString Choose();
