@@ -45,13 +45,11 @@ private slots:
 
     void SavesAndReads()
     {
-        QFile::setPermissions(File, QFile::ReadOwner | QFile::WriteOwner);
         QVERIFY(file_bytes::Save(File, Long));
         QCOMPARE(file_bytes::Read(File, 200'000), Long);
         QCOMPARE(file_bytes::Read(File, 3), std::string("nnn"));
         QVERIFY(file_bytes::Save(File, "short"));
         QCOMPARE(Contents(File), "short");
-        QVERIFY(!(QFile::permissions(File) & QFile::ReadGroup));
         QVERIFY(file_bytes::Save(Folder.filePath("new.pux"), "new"));
         QCOMPARE(Folder.entryList(QDir::Files).size(), 2);
     }
@@ -65,7 +63,14 @@ private slots:
         QCOMPARE(Folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
     }
 
-#ifdef Q_OS_UNIX
+#ifdef Q_OS_UNIX // elsewhere the toolkit tells neither permissions nor links from what it makes of them
+    void KeepsPermissions()
+    {
+        QFile::setPermissions(File, QFile::ReadOwner | QFile::WriteOwner);
+        QVERIFY(file_bytes::Save(File, "new"));
+        QVERIFY(!(QFile::permissions(File) & QFile::ReadGroup));
+    }
+
     void FollowsLinks()
     {
         const auto link = [this](const char* name, const QString& target) {

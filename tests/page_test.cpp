@@ -18,12 +18,18 @@ struct Placed {
 };
 
 /// What a reader of the PDF file finds on its pages.
-std::vector<Placed> ReadBack(const QString& path, int& pages, double& width)
+std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width)
 {
-    QProcess reader;
-    reader.start("pdftotext", {"-bbox", path, "-"});
-    reader.waitForFinished();
-    QXmlStreamReader xml(reader.readAllStandardOutput());
+    // What it leaves in a file, to the last line: where the program is one for Windows and the reader is none,
+    // neither its end nor its output can be waited for, nor does a folder of the one mean anything to the other.
+    QProcess::startDetached("pdftotext", {"-bbox", file.fileName(), "words"}, file.path());
+    QByteArray found;
+    (void)QTest::qWaitFor([&] {
+        QFile text(file.dir().filePath("words"));
+        found = text.open(QIODevice::ReadOnly) ? text.readAll() : QByteArray();
+        return found.contains("</html>");
+    });
+    QXmlStreamReader xml(found);
     std::vector<Placed> words;
     while (!xml.atEnd()) {
         xml.readNext();
@@ -84,7 +90,7 @@ private slots:
 
         int pages = 0;
         double width = 0;
-        const auto found = ReadBack(path, pages, width);
+        const auto found = ReadBack(QFileInfo(path), pages, width);
         QCOMPARE(pages, 1);
         QCOMPARE(found.size(), static_cast<std::size_t>(1 + words + size * size));
         // The reader has its own order: what counts is that each text stands where it should.
