@@ -1,6 +1,6 @@
 #include "document/character_set.h"
+#include "tests/support/page_recorder.h"
 #include "tests/support/puzzles.h"
-#include "view/printed_page.h"
 #include "wordlist/letters.h"
 
 #include <cmath>
@@ -14,27 +14,6 @@ void Require(bool condition)
     if (!condition)
         std::abort();
 }
-
-/// A printer that looks at what it is given.
-class Looker : public view::PagePrinter {
-public:
-    std::size_t Texts = 0;
-
-    std::optional<double> PageWidth() override { return 11900; }
-    std::optional<double> SetFont(const view::PageFont& font) override { return font.size; }
-    std::optional<double> Measure(std::u16string_view text) override
-    {
-        return 130.0 * static_cast<double>(text.size());
-    }
-    bool Write(view::PagePoint at, std::u16string_view /*text*/) override
-    {
-        ++Texts;
-        Require(std::isfinite(at.x) && at.y >= 720 && at.y < 14'400);
-        return true;
-    }
-    bool DrawLine(view::PagePoint /*from*/, view::PagePoint /*to*/) override { return true; }
-    bool EndDocument() override { return true; }
-};
 
 } // namespace
 
@@ -63,9 +42,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             character = static_cast<unsigned char>(wordlist::GridLetter(character).value_or(generator::Blank));
     const std::string fault = FaultOf(Solved(workspace, spelt));
     Require(fault.empty() || fault.starts_with("undecided")); // lists of one letter puzzle the finder
-    Looker printer;
-    Require(view::PrintPage(printer, u"Title", words, workspace));
-    Require(printer.Texts ==
+    Recorder page;
+    Require(view::PrintPage(page, u"Title", words, workspace));
+    Require(page.Texts.size() ==
             1 + words.size() + static_cast<std::size_t>(workspace.PuzzleSize * workspace.PuzzleSize));
+    for (const auto& text : page.Texts)
+        Require(std::isfinite(text.x) && text.y >= 720 && text.y < 14'400);
     return 0;
 }

@@ -18,7 +18,7 @@ struct Placed {
 };
 
 /// What a reader of the PDF file finds on its pages.
-std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width)
+std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width, double& height)
 {
     // What it leaves in a file, to the last line: where the program is one for Windows and the reader is none,
     // neither its end nor its output can be waited for, nor does a folder of the one mean anything to the other.
@@ -39,6 +39,7 @@ std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width)
         if (xml.isStartElement() && xml.name() == QLatin1String("page")) {
             ++pages;
             width = twips("width");
+            height = twips("height");
         }
         if (xml.isStartElement() && xml.name() == QLatin1String("word")) {
             const Placed word{{}, twips("xMin"), twips("xMax"), twips("yMin")};
@@ -64,7 +65,7 @@ private slots:
         const std::array<int, 5> counts{0, 1, 10, 11, 40};
         std::size_t i = 0;
         for (const int size : {10, 15, 16, 17, 21, 25, 30})
-            for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+            for (const auto paper : {QPageSize::A4, QPageSize::Letter, QPageSize::A5}) {
                 const int words = counts.at(i++ % counts.size());
                 QTest::addRow("%d, %d words, paper %d", size, words, paper)
                     << size << words << static_cast<int>(paper);
@@ -85,12 +86,21 @@ private slots:
         const QString path = folder.filePath("page.pdf");
         PagePaper device("Title");
         device.Printer().setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(paper)));
+        device.Printer().setPageOrientation(size % 2 == 0 ? QPageLayout::Portrait : QPageLayout::Landscape);
         device.Printer().setOutputFileName(path);
         QVERIFY(view::PrintPage(device, u"Animals", list, grid));
 
         int pages = 0;
         double width = 0;
-        const auto found = ReadBack(QFileInfo(path), pages, width);
+        double height = 0;
+        auto found = ReadBack(QFileInfo(path), pages, width, height);
+        QVERIFY(width < height); // upright
+        const double scale = view::ScaleForSheet(width, height);
+        QCOMPARE(scale < 1, paper == QPageSize::A5);
+        width /= scale;
+        for (Placed& placed : found)
+            for (double* place : {&placed.left, &placed.right, &placed.top})
+                *place /= scale;
         QCOMPARE(pages, 1);
         QCOMPARE(found.size(), static_cast<std::size_t>(1 + words + size * size));
         // The reader has its own order: what counts is that each text stands where it should.

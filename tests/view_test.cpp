@@ -1,3 +1,4 @@
+#include "tests/support/page_recorder.h"
 #include "tests/support/puzzles.h"
 #include "view/grid_drawing.h"
 #include "view/printed_page.h"
@@ -6,67 +7,9 @@
 #include <QtTest>
 
 #include <algorithm>
-#include <limits>
 #include <map>
 
 namespace {
-
-/// A printer that notes what it is asked: exact, or odd where a test says so.
-class Recorder : public view::PagePrinter {
-public:
-    struct Text {
-        double x, y;
-        std::u16string text;
-    };
-
-    double Width = 11906;
-    bool WholePoints = false; ///< rounds font sizes to whole points
-    int CallsUntilFailure = std::numeric_limits<int>::max();
-
-    QStringList Fonts;
-    std::vector<Text> Texts;
-    std::vector<std::array<double, 4>> Lines;
-    int Calls = 0;
-    int Ended = 0;
-
-    std::optional<double> PageWidth() override { return Answer(Width); }
-    std::optional<double> SetFont(const view::PageFont& font) override
-    {
-        Size = WholePoints ? std::round(font.size) : font.size;
-        Fonts += QString("%1 %2%3%4")
-                     .arg(font.name)
-                     .arg(font.size)
-                     .arg(font.bold ? " bold" : "", font.italic ? " italic" : "");
-        return Answer(Size);
-    }
-    /// Every character is half as wide as its font is high, and a little more, for fractions.
-    std::optional<double> Measure(std::u16string_view text) override
-    {
-        return Answer(static_cast<double>(text.size()) * (Size * 10 + 0.25));
-    }
-    bool Write(view::PagePoint position, std::u16string_view text) override
-    {
-        Texts.push_back({position.x, position.y, std::u16string(text)});
-        return Answer(0).has_value();
-    }
-    bool DrawLine(view::PagePoint from, view::PagePoint to) override
-    {
-        Lines.push_back({from.x, from.y, to.x, to.y});
-        return Answer(0).has_value();
-    }
-    bool EndDocument() override
-    {
-        ++Ended;
-        return Answer(0).has_value();
-    }
-
-private:
-    std::optional<double> Answer(double value)
-    {
-        return ++Calls >= CallsUntilFailure ? std::nullopt : std::optional(value);
-    }
-    double Size = 0;
-};
 
 generator::PuzzleWorkspace Grid(int size)
 {
@@ -78,15 +21,15 @@ generator::PuzzleWorkspace Grid(int size)
 
 /// The page of a grid of `size`: `left` and `last` are the places of its first column and its last row, `sizes` those
 /// of the font that are tried for it.
-void ComposesGrid(int size, double step, double left, double last, const QStringList& sizes)
+void ComposesGrid(int size, double step, double left, double last, std::initializer_list<const char*> sizes)
 {
     Recorder printer;
     const auto grid = Grid(size);
     QVERIFY(view::PrintPage(printer, u"T", {}, grid));
     QCOMPARE(printer.Ended, 1);
-    QStringList fonts{"Times New Roman 26 bold italic", "Times New Roman 11"};
-    for (const QString& points : sizes)
-        fonts += "Courier New " + points;
+    std::vector<std::string> fonts{"Times New Roman 26 bold italic", "Times New Roman 11"};
+    for (const char* points : sizes)
+        fonts.push_back(std::string("Courier New ") + points);
     QCOMPARE(printer.Fonts, fonts);
     QCOMPARE(printer.Texts.size(), static_cast<std::size_t>(size * size + 1));
     for (int cell = 0; cell < size * size; ++cell) {
@@ -179,12 +122,19 @@ private slots:
             }
     }
 
+    void FitsEverySheet()
+    {
+        for (const auto& [width, height, scale] : std::initializer_list<std::array<double, 3>>{
+                 {11900, 16840, 1}, {12240, 15840, 1}, {16840, 23820, 1}, {8316, 11900, 0.7}, {23820, 7910, 0.5}})
+            QCOMPARE(view::ScaleForSheet(width, height), scale);
+    }
+
     void FollowsASizeThatThePrinterRounds()
     {
         Recorder printer;
         printer.WholePoints = true;
         QVERIFY(view::PrintPage(printer, u"T", {}, Grid(15))); // 14.4 pt is taken as 14: no cap, the step stays
-        QCOMPARE(printer.Fonts.size(), 3);
+        QCOMPARE(printer.Fonts.size(), 3U);
         QCOMPARE(printer.Texts[2].x - printer.Texts[1].x, 576.0);
     }
 
