@@ -23,7 +23,7 @@ QIcon OfProgram()
 {
     KeepResources();
     QIcon icon;
-    for (const int size : {16, 32, 48, 64, 128, 256})
+    for (const int size : {16, 32, 48, 64}) // for title bars and task bars; larger ones the desktop finds itself
         icon.addFile(QStringLiteral(":/pictures/glyphgrove-%1.png").arg(size), QSize(size, size));
     return icon;
 }
