@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <map>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -73,19 +74,19 @@ private slots:
 
     void FollowsLinks()
     {
-        const auto link = [this](const char* name, const QString& target) {
+        const std::map<QString, QString> links{{"file.lnk", File},
+                                               {"chain.lnk", "file.lnk"},
+                                               {"nowhere.lnk", "new.pux"},
+                                               { "circle.lnk",
+                                                 "circle.lnk" }};
+        for (const auto& [name, target] : links)
             QVERIFY(QFile::link(target, Folder.filePath(name)));
-        };
-        link("file.lnk", File);
-        link("chain.lnk", "file.lnk");
-        link("nowhere.lnk", "new.pux");
-        link("circle.lnk", "circle.lnk");
         QVERIFY(file_bytes::Save(Folder.filePath("chain.lnk"), "new"));
         QCOMPARE(Contents(File), "new");
         QVERIFY(file_bytes::Save(Folder.filePath("nowhere.lnk"), "new"));
         QCOMPARE(Contents(Folder.filePath("new.pux")), "new");
         QVERIFY(!file_bytes::Save(Folder.filePath("circle.lnk"), "new"));
-        for (const char* name : {"file.lnk", "chain.lnk", "nowhere.lnk", "circle.lnk"})
+        for (const auto& [name, target] : links)
             QVERIFY(QFileInfo(Folder.filePath(name)).isSymLink());
     }
 

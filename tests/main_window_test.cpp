@@ -135,6 +135,15 @@ private slots:
         QCOMPARE(filters.at(2), "Glyphgrove Files (*.pux)|All File (*.*) Save As");
     }
 
+    void ListsInFourColumnsOfTen()
+    {
+        Run("fill:40");
+        auto& list = Control<WordList>("lstWordlist");
+        for (int i = 0; i < 40; ++i)
+            QCOMPARE(list.visualItemRect(list.item(i)), QRect(i / 10 * 158, i % 10 * 19, 158, 19));
+        QCOMPARE(list.item(3)->toolTip(), "<span>" + list.item(3)->text() + "</span>");
+    }
+
     /// The left button and the keyboard choose, an entry that is selected already too; other buttons do nothing.
     void ChoosesEntries()
     {
@@ -146,16 +155,10 @@ private slots:
             QTest::mouseClick(list.viewport(), button, {}, list.visualItemRect(list.item(1)).center());
         QCOMPARE(list.SelectedPosition(), 0);
         QCOMPARE(chosen, 0);
-        struct Row {
-            int key, selected, chosen;
-        };
-        for (const auto& [key, selected, total] : std::initializer_list<Row>{{Qt::Key_Space, 0, 1},
-                                                                             {Qt::Key_A, 0, 2},
-                                                                             {Qt::Key_Z, 0, 2},
-                                                                             {Qt::Key_Down, 1, 3},
-                                                                             {Qt::Key_End, 2, 4},
-                                                                             {Qt::Key_Home, 0, 5},
-                                                                             {Qt::Key_D, 2, 6}}) {
+        const std::vector<std::array<int, 3>> keys{{Qt::Key_Space, 0, 1}, {Qt::Key_A, 0, 2},   {Qt::Key_Z, 0, 2},
+                                                   {Qt::Key_Down, 1, 3},  {Qt::Key_End, 2, 4}, {Qt::Key_Home, 0, 5},
+                                                   {Qt::Key_D, 2, 6}};
+        for (const auto& [key, selected, total] : keys) {
             QTest::keyClick(&list, static_cast<Qt::Key>(key));
             QCOMPARE(list.SelectedPosition(), selected);
             QCOMPARE(chosen, total);

@@ -29,10 +29,10 @@ struct Model {
     }
     void LeaveTitle()
     {
-        if (std::exchange(InTitle, false) && Title.isEmpty()) {
-            Title = "New Puzzle";
-            TitleSet = false;
-        }
+        if (!std::exchange(InTitle, false) || !Title.isEmpty())
+            return;
+        Title = "New Puzzle";
+        TitleSet = false;
     }
     void ClearTextbox()
     {

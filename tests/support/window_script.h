@@ -69,17 +69,11 @@ protected:
             if (!ours.match(control->objectName()).hasMatch() || control->isHidden())
                 continue;
             const QRect place(control->mapTo(control->window(), QPoint()), control->size());
-            QString look = QString("%1 %2,%3 %4x%5")
-                               .arg(control->objectName())
-                               .arg(place.x())
-                               .arg(place.y())
-                               .arg(place.width())
-                               .arg(place.height());
+            QString look = control->objectName() +
+                           QString::asprintf(" %d,%d %dx%d", place.x(), place.y(), place.width(), place.height());
             if (const QFont font = control->font(); font != QApplication::font())
-                look += QString(" %1 %2%3")
-                            .arg(font.family())
-                            .arg(font.pointSizeF())
-                            .arg(font.bold() && font.italic() ? " bold italic" : "");
+                look += ' ' + font.family() + ' ' + QString::number(font.pointSizeF()) +
+                        (font.bold() && font.italic() ? " bold italic" : "");
             look += ' ' + control->palette().color(control->foregroundRole()).name();
             if (control->autoFillBackground())
                 look += " on " + control->palette().color(control->backgroundRole()).name();
