@@ -7,11 +7,13 @@ RequestExecutionLevel user
 ManifestDPIAware true
 
 !include MUI2.nsh
-!define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Glyphgrove"
+!define ENTRIES "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define ENTRY "${ENTRIES}\Glyphgrove"
+!define PROGRAMS "$LOCALAPPDATA\Programs"
 
 Name Glyphgrove
 OutFile "${OUTPUT}"
-InstallDir "$LOCALAPPDATA\Programs\Glyphgrove"
+InstallDir "${PROGRAMS}\Glyphgrove"
 InstallDirRegKey HKCU "${ENTRY}" InstallLocation
 BrandingText "Glyphgrove ${VERSION}"
 VIProductVersion "${VERSION}.0.0"
@@ -49,11 +51,13 @@ Section
     WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
 SectionEnd
 
-; What was installed and nothing else: the user may keep files of his own there.
+; What was installed and nothing else: the user may keep files of his own there, and other programs may be listed.
 Section Uninstall
     !include "${REMOVE}"
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
+    RMDir "${PROGRAMS}"
     Delete "$SMPROGRAMS\Glyphgrove.lnk"
     DeleteRegKey HKCU "${ENTRY}"
+    DeleteRegKey /ifempty HKCU "${ENTRIES}"
 SectionEnd
