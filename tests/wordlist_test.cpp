@@ -109,7 +109,7 @@ private slots:
         many.insert(many.end(), {u"DOG", u"FOX"});
         QVERIFY(tells(many, "holds 42 words, and a puzzle has room for 40. Please remove 2"));
         QVERIFY(tells(many, "\"DOG\", \"FOX\""));
-        QVERIFY(tells(Words(56, u"CAT"), "\"CAT\" and 1 more"));
+        QVERIFY(tells(Words(56, u"CAT"), "\"CAT\" and 1 more") && !tells(Words(55, u"CAT"), " more"));
         QVERIFY(tells(Words{std::u16string(40, u'A'), std::u16string(41, u'B')},
                       "AA\", \"" + QString(40, 'B') + "\u2026"));
         // The message fits a screen whatever the file brings.
