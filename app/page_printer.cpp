@@ -32,8 +32,8 @@ PagePaper::PagePaper(const QString& name) : Device(QPrinter::HighResolution)
 std::optional<double> PagePaper::PageWidth()
 {
     Device.setPageOrientation(QPageLayout::Portrait); // whatever was chosen
-    Device.setPageMargins(
-        {}); // from the sheet's corner: printers of Windows count from their margins, full page or not
+    // From the sheet's corner: printers of Windows count from their margins, full page or not.
+    Device.setPageMargins({});
     const QSizeF sheet = Device.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
     if (sheet.isEmpty())
         return std::nullopt;

@@ -12,8 +12,8 @@ public:
     PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
                      QWidget* owner);
 
-    /// Runs a dialog of these, the desktop's own where it has one that does the same. The chosen path, or empty as
-    /// below.
+    /// Runs a dialog of these, named `objectName`, or the desktop's own where it does the same. The chosen path, or
+    /// empty as below.
     static QString Ask(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
                        QWidget* owner, const QString& objectName = QStringLiteral("dlgFileName"));
 
