@@ -10,90 +10,19 @@ class MainWindowTest : public WindowScript {
 private slots:
     void ShowsWhatEachCommandLeaves_data()
     {
-        QTest::addColumn<QString>("script");
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QString>("boxes");
-        const auto row = [](const char* script, const char* state, const char* boxes = "") {
-            QTest::newRow(script) << QString(script) << QString(state) << QString(boxes);
-        };
-        row("leave", "G - NP | NP |  |  | 0");
-        // Words.
-        row("enter", "G - NP | NP |  |  | 0");
-        row("word:dog word:Cat word:ICE_CREAM", "G - NP | NP | Cat,dog,ICE CREAM | AC | 3");
-        row("word:CAT word:cat word:CAT_", "G - NP | NP | CAT,cat,CAT  | AC | 3");
-        row("type:CAT titleenter", "G - NP | NP | CAT | AC | 1");
-        row("word:CAT no word:CAT", "G - NP | NP | CAT | AC | 1", "again?");
-        row("word:CAT yes word:CAT yes yes word:CAT", "G - NP | NP | CAT,CAT,CAT | AC | 3", "again? again? again?");
-        row("fill:40 ok word:Z yes ok word:Waa", "G - NP | NP | 40 words | AC | 40!", "limit again? limit");
-        row("fill:40 pick:0 delete", "G - NP | NP | 39 words | AC | 39");
-        // Editing.
-        row("word:CAT word:DOG pick:1", "G - NP | NP | CAT,DOG | ACE | 2 @1");
-        row("word:CAT pick:0 type:X pick:0", "G - NP | NP | CAT | ACE | 1 @0");
-        row("word:CAT word:DOG pick:1 edit pick:0 word:EEL", "G - NP | NP | CAT,EEL | AC | 2 @0");
-        row("word:CAT pick:0 edit wipe enter", "G - NP | NP | CAT | AM | 1 @0");
-        row("word:CAT word:DOG pick:0 edit wipe word:DOG", "G - NP | NP | DOG,DOG | AC | 2");
-        row("word:CAT word:DOG pick:0 edit tool:Delete", "G - NP | NP | DOG | A | 1");
-        row("word:CAT word:DOG pick:0 tool:Delete edit word:X", "G - NP | NP | CATX,DOG | AC | 2");
-        row("word:CAT pick:0 edit no menu:fn word:X", "G-NP | NP | X | AC | 1", "save?");
-        row("word:CAT pick:0 edit no file:good.pux menu:fo tabs word:X", "G-Pets | Pets | DOG,CAT,X | SAC | 3",
-            "save? file");
-        row("word:CAT pick:0 edit no menu:fn word:B word:A pick:0 edit no menu:fn file:good.pux menu:fo no word:CAT",
-            "G-Pets | Pets | DOG,CAT | SAC | 2", "save? save? file again?");
-        row("word:CAT pick:0 no file:full.pux menu:fo edit ok enter", "G-F | F | 40 words | SAC | 40!",
-            "save? file limit");
-        row("word:CAT word:DOG pick:0 tool:Delete edit wipe no word:DOG", "G - NP | NP | DOG | AC | 1", "again?");
-        row("type:a_ home del enter no create back", "G - NP | NP |   | AC | 1", "save?");
-        // The title.
-        row("clicktitle title:A[*]B[*][*] leave word:X file:new.pux menu:fe",
-            "G-A[*]B[*][*] | A[*]B[*][*] | X | AC | 1 | new.pux=2.2/A[*]B[*][*]/X/", "file");
-        row("title:_s leave menu:fn", "G-NP | NP |  |  | 0");
-        row("clicktitle title:Pets leave no menu:fn", "G-NP | NP |  |  | 0", "save?");
-        row("clicktitle leave clicktitle", "G - NP |  |  |  | 0");
-        row("clicktitle leave", "G - NP | NP |  |  | 0");
-        row("clicktitle title:Pets clicktitle", "G - NP | Pets |  |  | 0");
-        // Files.
-        row("word:CAT cancel menu:fn", "G - NP | NP | CAT | AC | 1", "save?");
-        row("word:CAT no tool:New", "G-NP | NP |  | C | 0", "save?");
-        row("word:CAT file:new.pux tool:Save word:DOG", "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/",
-            "file");
-        row("word:CAT file:new.pux menu:fe word:DOG menu:fv",
-            "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file");
-        row("word:CAT file:new.pux menu:fe word:DOG file:new.pux yes menu:fe",
-            "G-NP | NP | CAT,DOG | SAC | 2 | new.pux=2.2/NP/CAT/DOG/", "file file replace?");
-        row("word:CAT file:missing/new.pux ok menu:fe", "G - NP | NP | CAT | AC | 1", "file no folder");
-        row("file:good.pux menu:fo", "G-Pets | Pets | DOG,CAT | SAC | 2", "file");
-        row("file:good.pux tool:Open file:new.pux menu:fe word:EEL tool:Save",
-            "G-Pets | Pets | DOG,CAT,EEL | SAC | 3 | new.pux=2.2/Pets/DOG/CAT/EEL/", "file file");
-        row("file:good.pux menu:fo clicktitle cancel closemain", "G-Pets | Pets | DOG,CAT | SAC | 2", "file save?");
-        row("file:older.pux ok menu:fo", "G-Old | Old | DOG | SAC | 1", "file older");
-        row("file:bad.pux ok menu:fo word:DOG", "G-NP | NP | DOG | AC | 1", "file bad");
-        row("file:new.pux menu:fo word:CAT tool:Save", "G-NP | NP | CAT | SAC | 1 | new.pux=2.2/NP/CAT/", "file");
-        row("file:long.pux menu:fo pick:0 edit type:X enter file:new.pux menu:fe",
-            "G-A title of over thirty characters | A title of over thirty characters | "
-            "AWORDOFOVERTWENTYLETTERS | "
-            "SAC | 1 | new.pux=2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERS/",
-            "file file");
-        row("word:CAT yes escape menu:fn", "G-NP | NP |  | C | 0", "save? file");
-        row("word:CAT no escape menu:fo closemain", "G - NP | NP | CAT | AC | 1", "save? file");
-        row("word:CAT no menu:fq", "G - NP | NP | CAT | AC | 1", "save?");
-        row("ok tool:Save", "G - NP | NP |  |  | 0", "nothing to save");
-        row("word:CAT pick:0 delete escape tool:Save", "G - NP | NP |  | AC | 0", "file");
-        row("type:CAT escape menu:ha", "G - NP | NP |  |  | 0", "frmAbout");
-        // The puzzle.
-        row("word:CAT cancel create back", "G - NP | NP | CAT | AC | 1", "save?");
-        row("word:CAT yes file:new.pux create closepuzzle", "G-NP | NP | CAT | AC | 1 | new.pux=2.2/NP/CAT/",
-            "save? file");
-        row("file:many.pux menu:fo ok create", "G-M | M | 41 words | SAC | 41!", "file obstacle");
+        QTest::addColumn<QStringList>("lines");
+        for (const QString& block : Data("scripts.txt").split("\n\n")) {
+            const QStringList lines = block.split('\n').filter(QRegularExpression("^[^#]"));
+            QTest::newRow(qPrintable(lines[0])) << lines;
+        }
     }
 
     void ShowsWhatEachCommandLeaves()
     {
-        QFETCH(QString, script);
-        QFETCH(QString, state);
-        QFETCH(QString, boxes);
-        Run(script);
-        QCOMPARE(State(), state);
-        QCOMPARE(Boxes(), boxes);
+        QFETCH(QStringList, lines);
+        Run(lines[0]);
+        QCOMPARE("= " + State().Line(), lines[1]);
+        QCOMPARE("? " + Boxes(), lines.value(2, "? "));
         for (const char* name : {"mnuOpen", "mnuNewPuzzle", "mnuExit", "mnuAbout", "New", "Open", "Save", "Delete"})
             QVERIFY2(Control<QAction>(name).isEnabled(), name); // always
         QVERIFY(Control<QPushButton>("cmdEnter").isEnabled());

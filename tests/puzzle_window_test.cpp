@@ -74,7 +74,7 @@ private slots:
         QTest::keyClick(&link, Qt::Key_Space);
         QDesktopServices::unsetUrlHandler("https");
         QCOMPARE(Addresses, QStringList(QList<QString>(2, "https://www.tallowick.example/")));
-        QCOMPARE(State(), "G - NP | NP |  |  | 0");
+        QCOMPARE(State().Line(), "G - NP | NP |  |  | 0");
     }
 
     /// Becoming active empties the word box; coming back from the task bar does not.
@@ -83,10 +83,10 @@ private slots:
         Step("type:CAT");
         Window->showMinimized();
         Window->showNormal();
-        QCOMPARE(State(), "G - NP | NP |  |  | 0 | CAT");
+        QCOMPARE(State().Line(), "G - NP | NP |  |  | 0 | CAT");
         Window->hide();
         Window->show();
-        QCOMPARE(State(), "G - NP | NP |  |  | 0");
+        QCOMPARE(State().Line(), "G - NP | NP |  |  | 0");
     }
 
     void LooksAsItShould()
@@ -99,9 +99,7 @@ private slots:
         });
         Run("menu:ha word:CAT word:Wild_Rose no create");
         looks += Looks(*ShownWindow("frmPuzzle"));
-        QFile expected(QFINDTESTDATA("data/looks.txt"));
-        QVERIFY(expected.open(QIODevice::ReadOnly | QIODevice::Text));
-        QCOMPARE(looks, QString(expected.readAll()).trimmed().split('\n'));
+        QCOMPARE(looks, Data("looks.txt").split('\n'));
         QCOMPARE(ToolButton(*Window, "Toolbar1", "Save").geometry(), QRect(50, 0, 24, 23));
         QCOMPARE(ToolButton(*Window, "Toolbar1", "Save").toolTip(), "Save Puzzle (Ctrl+S)");
     }
@@ -213,42 +211,6 @@ private slots:
             QVERIFY(grid->rect().contains(grid->child(row)->rect()));
         }
         QVERIFY(grid->child(10) == nullptr);
-    }
-
-    /// The desktop's session ends while a box or a dialog is open, with nothing or something unsaved.
-    void SurvivesTheEndOfTheSession_data()
-    {
-        QTest::addColumn<QString>("script"); // "end" is the answer to the dialog that comes then
-        QTest::addColumn<QString>("boxes");
-        QTest::addColumn<bool>("ended");
-        const auto row = [](const char* script, const char* boxes, bool ended) {
-            QTest::newRow(script) << script << boxes << ended;
-        };
-        row("word:CAT no create end print", "save? PrinterDialog", true);
-        row("word:CAT no create pdf:page.pdf print pdf:page.pdf end print",
-            "save? PrinterDialog PrinterDialog replace?", true);
-        row("word:CAT cancel create end cancel print", "save? PrinterDialog save?", false);
-        row("word:CAT cancel create end no print", "save? PrinterDialog save?", true);
-        row("word:CAT end no create", "save? save?", true);
-        row("word:CAT end cancel create back", "save? save?", false);
-        row("word:CAT end no menu:fe", "file save?", true);
-        row("word:CAT end no word:CAT", "again? save?", true);
-        row("end menu:ha", "frmAbout", true);
-    }
-
-    void SurvivesTheEndOfTheSession()
-    {
-        QFETCH(QString, script);
-        QFETCH(QString, boxes);
-        QFETCH(bool, ended);
-        QApplication::setQuitOnLastWindowClosed(false);
-        for (const QString& step : script.split(' '))
-            if (step == "end")
-                Answering.Expect([](QDialog& /*dialog*/) { QApplication::closeAllWindows(); });
-            else
-                Step(step);
-        QCOMPARE(Boxes(), boxes);
-        QVERIFY(Window->isVisible() == !ended && ShownWindow("frmPuzzle") == nullptr);
     }
 };
 

@@ -11,15 +11,18 @@ struct Document {
 
 /// The program as its rules have it, without a window. It answers the boxes that it brings up by chance and
 /// notes box and answer for the real window to be given the same.
-struct Model {
+struct Model : Seen {
     QRandomGenerator& Chance;
     QMap<QString, Document>& Disk;
-    QStringList Boxes = {}, Answers = {};
-    QString Caption = "Glyphgrove - New Puzzle", Title = "New Puzzle", Word = {}, DocFileName = {}, SelectedWord = {};
-    QStringList Words = {};
-    int Selected = -1, EditIndex = -1;
-    bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
-    bool Saved = true, TitleSet = false, InTitle = false, Puzzle = false, Closed = false;
+    QStringList Boxes, Answers;
+    QString DocFileName, SelectedWord;
+    int EditIndex = -1;
+    bool Saved = true, TitleSet = false, InTitle = false;
+
+    Model(QRandomGenerator& chance, QMap<QString, Document>& disk)
+        : Seen{"Glyphgrove - New Puzzle", "New Puzzle"}, Chance(chance), Disk(disk)
+    {
+    }
 
     QString Ask(const QString& box, const QStringList& answers)
     {
@@ -171,7 +174,7 @@ struct Model {
         LeaveTitle();
         CheckForSave();
         if (FitForPuzzle())
-            Puzzle = true;
+            Shown = "frmPuzzle";
         else
             Ask("obstacle", {"ok", "escape"});
     }
@@ -191,6 +194,12 @@ struct Model {
             if (Word.size() < 20 && (c == ' ' ? !Word.isEmpty() : c.isLetter()))
                 Word += c;
     }
+    void Close() { Shown = CheckForSave() ? Shown : ""; }
+    void Back()
+    {
+        Shown = "frmMain";
+        Word.clear();
+    }
     void ClickTitle()
     {
         InTitle = true;
@@ -205,6 +214,7 @@ struct Model {
     bool Do(const QString& step)
     {
         const QString about = step.section(':', 1).replace('_', ' ');
+        const bool puzzle = Shown == "frmPuzzle";
         const std::map<QString, std::pair<bool, std::function<void()>>> actions{
             {"type", {true, [&] { Type(about); }}},
             {"enter", {true, [&] { Enter(); }}},
@@ -225,37 +235,23 @@ struct Model {
             {"tool:Save", {true, [&] { ToolbarSave(); }}},
             {"menu:fv", {Save, [&] { Write(DocFileName); }}},
             {"menu:fe", {SaveAs, [&] { RunSaveAs(); }}},
-            {"menu:fq", {true, [&] { Closed = !CheckForSave(); }}},
-            {"closemain", {true, [&] { Closed = !CheckForSave(); }}},
+            {"menu:fq", {true, [&] { Close(); }}},
+            {"closemain", {true, [&] { Close(); }}},
             {"menu:ha", {true, [&] { Ask("frmAbout", {"escape"}), Word.clear(); }}},
             {"create", {Create, [&] { CreatePuzzle(); }}},
-            {"back", {Puzzle, [&] { Puzzle = false, Word.clear(); }}},
-            {"closepuzzle", {Puzzle, [&] { Puzzle = false, Word.clear(); }}},
+            {"back", {puzzle, [&] { Back(); }}},
+            {"closepuzzle", {puzzle, [&] { Back(); }}},
         };
         const auto exact = actions.find(step);
         const auto& [possible, act] = exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
-        const bool done = possible && (!Puzzle || step == "back" || step == "closepuzzle");
+        const bool done = possible && (!puzzle || step == "back" || step == "closepuzzle");
         if (done)
             act();
-        return done;
-    }
-
-    QString State() const
-    {
-        const auto flag = [](bool on, const char* name) { return on ? QString(name) : QString(); };
-        QString state = QStringList{Caption, Title, Words.join(','),
-                                    flag(Save, "S") + flag(SaveAs, "A") + flag(Create, "C") + flag(EditButtons, "E") +
-                                        flag(EditMode, "M"),
-                                    QString::number(Words.size()) + flag(Words.size() >= 40, "!") +
-                                        flag(Selected >= 0, qPrintable(" @" + QString::number(Selected)))}
-                            .join(" | ");
-        if (!Word.isEmpty())
-            state += " | " + Word;
+        Count = QString::number(Words.size()) + (Words.size() >= 40 ? "!" : "");
         for (const char* name : {"new1.pux", "new2.pux"})
             if (Disk.contains(name))
-                state += QString(" | ") + name + "=2.2/" +
-                         (QStringList(Disk[name].title) + Disk[name].words).join('/') + '/';
-        return state.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
+                Files[name] = (QStringList{"2.2", Disk[name].title} + Disk[name].words).join('/') + '/';
+        return done;
     }
 };
 
@@ -272,8 +268,6 @@ private slots:
         const int count = std::max(qEnvironmentVariableIntValue("GLYPHGROVE_ACTIONS"), 1500);
         const int seed = qEnvironmentVariableIntValue("GLYPHGROVE_SEED");
         qInfo("seed %d, %d actions", seed, count);
-        QApplication::setQuitOnLastWindowClosed(false); // the next window follows
-        MostWords = 1000;
         const QString longTitle = "A title of over thirty characters";
         QMap<QString, Document> disk{{"good.pux", {"", "Pets", {"DOG", "CAT"}}},
                                      {"older.pux", {"older", "Old", {"DOG"}}},
@@ -281,7 +275,7 @@ private slots:
                                      {"long.pux", {"", longTitle, {"AWORDOFOVERTWENTYLETTERS"}}},
                                      {"many.pux", {"", "M", QStringList(QList<QString>(41, "W"))}}};
         QRandomGenerator chance(static_cast<quint32>(seed));
-        auto model = std::unique_ptr<Model>(new Model{chance, disk});
+        auto model = std::make_unique<Model>(chance, disk);
         const QStringList steps =
             QString("type:cat type:CAT type:Cat_ type:dog type:ice_cream type:_zebra type:a type:b "
                     "type:1-2 type:abcdefghijklmnopqrstuvw enter enter enter enter enter enter enter "
@@ -309,12 +303,10 @@ private slots:
                                      .arg(i)
                                      .arg(done.mid(done.size() - 12).join("; "));
             QVERIFY2(Answering.Done(), qPrintable(last));
-            QVERIFY2(Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == model->State() &&
-                         (ShownWindow("frmPuzzle") != nullptr) == model->Puzzle &&
-                         Window->isVisible() == (!model->Puzzle && !model->Closed),
-                     qPrintable(last + "\nwindow " + State() + "\nmodel  " + model->State()));
-            if (model->Closed) {
-                model.reset(new Model{chance, disk});
+            QVERIFY2(Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == *model,
+                     qPrintable(last + "\nwindow " + State().Line() + "\nmodel  " + model->Line()));
+            if (model->Shown.isEmpty()) {
+                model = std::make_unique<Model>(chance, disk);
                 Start(FixedRandom(1));
             }
         }

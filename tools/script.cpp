@@ -62,6 +62,7 @@ void Script::Step(const QString& step)
         {"no", [&] { Answering.Expect(Press(QMessageBox::No)); }},
         {"cancel", [&] { Answering.Expect(Press(QMessageBox::Cancel)); }},
         {"ok", [&] { Answering.Expect(Press(QMessageBox::Ok)); }},
+        {"end", [&] { Answering.Expect([](QDialog& /*dialog*/) { QApplication::closeAllWindows(); }); }},
         {"escape", [&] { Answering.Expect(Dismiss()); }},
         {"file", [&] { Answering.Expect(ChooseFile(Folder.absoluteFilePath(about))); }},
         {"pdf", [&] { Answering.Expect(PrintTo(Folder.absoluteFilePath(about))); }},

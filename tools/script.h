@@ -19,8 +19,9 @@ namespace driving {
 ///     pick:N edit delete create               the list, from 0, and the buttons
 ///     tool:KEY menu:AB                        the toolbar; the menus by their access keys
 ///     print back closepuzzle closemain        the puzzle window, the close boxes
-///     yes no cancel ok escape file:NAME pdf:NAME
-///                                             answers, given before the step that brings up the question
+///     yes no cancel ok escape file:NAME pdf:NAME end
+///                                             answers, given before the step that brings up the question; "end" of
+///                                             the desktop's session
 class Script {
 public:
     explicit Script(const QString& folder = QString()) : Folder(folder) {}

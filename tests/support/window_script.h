@@ -8,10 +8,44 @@
 #include <QWindow>
 #include <QtTest>
 
+#include <array>
 #include <map>
 #include <memory>
 
 using namespace driving;
+
+/// All that is to be seen of the program.
+struct Seen {
+    QString Caption, Title;
+    QStringList Words = {};
+    int Selected = -1;
+    QString Word = {};
+    bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
+    QString Count = "0";               ///< "!" after it where it is red
+    QMap<QString, QString> Files = {}; ///< those that scripts write to, a "/" for a line's end, without quotes
+    QString Shown = "frmMain";         ///< the windows
+
+    bool operator==(const Seen& other) const = default;
+
+    /// In a line: caption, big title, words, then S, A, C, E and M for what is available: Save, Save As, Create
+    /// Puzzle, the edit buttons, edit mode; the count, "@" and the position of the selected entry; the text of the
+    /// word box, the files, the windows where they are not the main one. Of more than five words it gives the number.
+    QString Line() const
+    {
+        QString line = Caption + " | " + Title + " | ";
+        line += Words.size() <= 5 ? Words.join(',') : QString("%1 words").arg(Words.size());
+        line += " | ";
+        const std::array<bool, 5> flags{Save, SaveAs, Create, EditButtons, EditMode};
+        for (std::size_t i = 0; i < flags.size(); ++i)
+            line += flags.at(i) ? QString("SACEM").mid(static_cast<int>(i), 1) : "";
+        line += " | " + Count + (Selected < 0 ? "" : " @" + QString::number(Selected));
+        line += Word.isEmpty() ? "" : " | " + Word;
+        for (auto file = Files.begin(); file != Files.end(); ++file)
+            line += " | " + file.key() + '=' + file.value();
+        line += Shown == "frmMain" ? "" : " | " + (Shown.isEmpty() ? "closed" : Shown);
+        return line.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
+    }
+};
 
 /// The base of the window tests: a fresh window and a folder of files for each, and what is to be seen of
 /// them, as texts. Most tests are tables of scripts and of what they leave.
@@ -25,38 +59,40 @@ protected:
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
-    /// All that the window shows, in a line: caption, big title, words, then S, A, C, E and M for what is
-    /// available: Save, Save As, Create Puzzle, the edit buttons, edit mode; the count, "!" when red, "@" and the
-    /// position of the selected entry; the text of the word box; last the files of the folder that scripts write to.
-    QString State()
+    /// A text of the folder data.
+    static QString Data(const QString& name)
     {
-        QStringList words;
-        for (int i = 0; i < Control<QListWidget>("lstWordlist").count(); ++i)
-            words += Control<QListWidget>("lstWordlist").item(i)->text();
-        const auto flag = [](bool on, const char* name) { return on ? QString(name) : QString(); };
-        if (words.size() > MostWords)
-            words = {QString("%1 words").arg(words.size())};
-        const bool edit = Control<QPushButton>("cmdEditWord").isVisibleTo(Window.get());
+        QFile file(QFINDTESTDATA("../data/" + name));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            qFatal("cannot read %s", qPrintable(name));
+        return QString::fromUtf8(file.readAll()).trimmed();
+    }
+
+    Seen State()
+    {
+        Seen seen{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text()};
+        const auto& list = Control<WordList>("lstWordlist");
+        for (int i = 0; i < list.count(); ++i)
+            seen.Words += list.item(i)->text();
+        seen.Selected = list.SelectedPosition();
+        seen.Word = Control<QLineEdit>("txtNewWords").text();
+        seen.Save = Control<QAction>("mnuSave").isEnabled();
+        seen.SaveAs = Control<QAction>("mnuSaveAs").isEnabled();
+        seen.Create = Control<QPushButton>("cmdCreatePuzzle").isEnabled();
+        seen.EditButtons = Control<QPushButton>("cmdEditWord").isVisibleTo(Window.get());
+        seen.EditMode = Control<QPushButton>("cmdEnter").text() == "Enter (EditMode)";
         const auto& count = Control<QLabel>("lblWordCount");
-        const int selected = Control<WordList>("lstWordlist").SelectedPosition();
-        QString state =
-            QStringList{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text(), words.join(','),
-                        flag(Control<QAction>("mnuSave").isEnabled(), "S") +
-                            flag(Control<QAction>("mnuSaveAs").isEnabled(), "A") +
-                            flag(Control<QPushButton>("cmdCreatePuzzle").isEnabled(), "C") + flag(edit, "E") +
-                            flag(Control<QPushButton>("cmdEnter").text() == "Enter (EditMode)", "M"),
-                        count.text() + flag(count.palette().color(QPalette::WindowText) == Qt::red, "!") +
-                            flag(selected >= 0, qPrintable(" @" + QString::number(selected)))}
-                .join(" | ");
-        if (!Control<QLineEdit>("txtNewWords").text().isEmpty())
-            state += " | " + Control<QLineEdit>("txtNewWords").text();
+        seen.Count = count.text() + (count.palette().color(QPalette::WindowText) == Qt::red ? "!" : "");
         for (const QString& name : Folder.entryList({"new*"})) {
             QFile file(Folder.filePath(name));
-            state += file.open(QIODevice::ReadOnly)
-                         ? " | " + name + "=" + QString(file.readAll()).remove('"').replace("\r\n", "/")
-                         : "unreadable";
+            seen.Files[name] = file.open(QIODevice::ReadOnly)
+                                   ? QString(file.readAll()).remove('"').replace("\r\n", "/")
+                                   : "unreadable";
         }
-        return state.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
+        seen.Shown = Window->isVisible() ? "frmMain" : "";
+        if (const QWidget* puzzle = ShownWindow("frmPuzzle"))
+            seen.Shown += puzzle->objectName();
+        return seen;
     }
 
     /// What is to be seen of a window's named controls: name, place and size in pixels, font where it is not the
@@ -115,11 +151,14 @@ protected:
         return shown.join(' ');
     }
 
-    int MostWords = 5; ///< a state names; longer lists it counts
     std::unique_ptr<QTemporaryDir> Disk;
 
 private slots:
-    void initTestCase() { PrepareApplication(); }
+    void initTestCase()
+    {
+        PrepareApplication();
+        QApplication::setQuitOnLastWindowClosed(false); // the next window follows
+    }
 
     void init()
     {
