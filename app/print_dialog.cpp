@@ -46,7 +46,5 @@ bool RunPrintDialog(QPrinter& printer, QWidget& owner)
     dialog.setObjectName(DialogName);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
-    dialog.setMinMax(1,
-                     1); // there is one page to choose from, where a desktop offers the choice all the same
     return dialog.exec() == QDialog::Accepted;
 }
