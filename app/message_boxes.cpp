@@ -4,13 +4,13 @@ namespace message_boxes {
 
 namespace {
 
+/// Escape answers Cancel where there is one, else No, else the only button.
 QMessageBox::StandardButton Ask(QWidget* owner, const QString& text, const QString& title,
-                                QMessageBox::StandardButtons buttons, QMessageBox::StandardButton onEscape)
+                                QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(QMessageBox::NoIcon, title, text, buttons, owner);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok);
-    box.setEscapeButton(onEscape);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -18,17 +18,17 @@ QMessageBox::StandardButton Ask(QWidget* owner, const QString& text, const QStri
 
 void Tell(QWidget* owner, const QString& text, const QString& title)
 {
-    Ask(owner, text, title, QMessageBox::Ok, QMessageBox::Ok);
+    Ask(owner, text, title, QMessageBox::Ok);
 }
 
 bool Confirm(QWidget* owner, const QString& text, const QString& title)
 {
-    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
 QMessageBox::StandardButton AskToSave(QWidget* owner, const QString& text, const QString& title)
 {
-    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
+    return Ask(owner, text, title, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
 }
 
 } // namespace message_boxes

@@ -26,7 +26,6 @@ PagePaper::PagePaper(const QString& name) : Device(QPrinter::HighResolution)
     Device.setDocName(name);
     Device.setCreator(QStringLiteral("Glyphgrove"));
     Device.setFullPage(true);
-    Device.setFontEmbeddingEnabled(true);
 }
 
 std::optional<double> PagePaper::PageWidth()

@@ -13,8 +13,6 @@ QToolBar* MakeToolbar(const QString& name, const QString& accessibleName,
     toolbar->setAccessibleName(accessibleName);
     toolbar->layout()->setContentsMargins({}); // room for pictures of their full size
     toolbar->setIconSize(QSize(16, 16));
-    toolbar->setMovable(false);
-    toolbar->setFloatable(false);
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     int index = 0;
     for (const ToolbarButton& button : buttons) {

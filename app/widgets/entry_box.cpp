@@ -56,9 +56,7 @@ void EntryBox::MakePendingChange()
         return;
     const wordlist::Change change = *std::exchange(Pending, std::nullopt);
     home(false); // moving about keeps this edit and the one before apart, for undo
-    setCursorPosition(static_cast<int>(change.position));
-    if (change.removed > 0)
-        setSelection(static_cast<int>(change.position), static_cast<int>(change.removed));
+    setSelection(static_cast<int>(change.position), static_cast<int>(change.removed));
     insert(QString::fromStdU16String(change.inserted));
 }
 
