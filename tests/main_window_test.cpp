@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QInputMethodEvent>
+#include <QPrintDialog>
 
 class MainWindowTest : public WindowScript {
     Q_OBJECT
@@ -28,26 +29,42 @@ private slots:
         QVERIFY(Control<QPushButton>("cmdEnter").isEnabled());
     }
 
-    /// The dialogs open with the name that they remember.
-    void ProposesNames()
+    /// What boxes offer, the usual answer last; the names with which dialogs open, and what one can choose there.
+    void AsksForWhatItNeeds()
     {
-        QStringList proposed, filters;
+        const auto keys = [](auto value) { return QMetaEnum::fromType<decltype(value)>().valueToKeys(value); };
+        QStringList asked;
         const auto note = [&](QDialog& dialog) {
-            proposed += Find<QLineEdit>(dialog, "fileNameEdit").text();
-            filters += qobject_cast<QFileDialog*>(&dialog)->nameFilters().join('|') + ' ' + dialog.windowTitle();
+            if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
+                asked += keys(box->standardButtons()) + ' ' + box->defaultButton()->text().remove('&');
+            else if (const auto* files = qobject_cast<const QFileDialog*>(&dialog))
+                asked += files->windowTitle() + ' ' + files->nameFilters().join('|') + ' ' +
+                         Find<QLineEdit>(dialog, "fileNameEdit").text();
+            else if (const auto* print = qobject_cast<const QPrintDialog*>(&dialog))
+                asked +=
+                    keys(print->options()) + ' ' + QFileInfo(Find<QLineEdit>(dialog, "filename").text()).fileName();
             dialog.reject();
         };
         const auto ask = [&](const char* steps) { Answering.Expect(note), Run(steps); };
         ask("menu:fo");
+        ask("tool:Save");
         Run("file:good.pux menu:fo");
         ask("menu:fo");
         ask("menu:fe");
         ask("menu:fo");
         Run("menu:fn");
         ask("menu:fo");
-        QCOMPARE(proposed, QStringList({"", "good.pux", "Pets", "Pets", ""}));
-        QCOMPARE(filters.at(0), "Glyphgrove Files (*.pux) Open");
-        QCOMPARE(filters.at(2), "Glyphgrove Files (*.pux)|All File (*.*) Save As");
+        Run("word:CAT");
+        ask("word:CAT");
+        ask("menu:fn");
+        Run("no create");
+        ask("print");
+        QCOMPARE(asked,
+                 QStringList({"Open Glyphgrove Files (*.pux) ", "Ok|FirstButton OK",
+                              "Open Glyphgrove Files (*.pux) good.pux",
+                              "Save As Glyphgrove Files (*.pux)|All File (*.*) Pets",
+                              "Open Glyphgrove Files (*.pux) Pets", "Open Glyphgrove Files (*.pux) ", "Yes|No Yes",
+                              "Yes|No|Cancel Yes", "PrintToFile|PrintShowPageSize New Puzzle.pdf"}));
     }
 
     void ListsInFourColumnsOfTen()
@@ -56,6 +73,7 @@ private slots:
         auto& list = Control<WordList>("lstWordlist");
         for (int i = 0; i < 40; ++i)
             QCOMPARE(list.visualItemRect(list.item(i)), QRect(i / 10 * 158, i % 10 * 19, 158, 19));
+        QCOMPARE(list.viewport()->geometry(), QRect(2, 2, 634, 191));
         QCOMPARE(list.item(3)->toolTip(), "<span>" + list.item(3)->text() + "</span>");
     }
 
@@ -70,15 +88,22 @@ private slots:
             QTest::mouseClick(list.viewport(), button, {}, list.visualItemRect(list.item(1)).center());
         QCOMPARE(list.SelectedPosition(), 0);
         QCOMPARE(chosen, 0);
-        const std::vector<std::array<int, 3>> keys{{Qt::Key_Space, 0, 1}, {Qt::Key_A, 0, 2},   {Qt::Key_Z, 0, 2},
-                                                   {Qt::Key_Down, 1, 3},  {Qt::Key_End, 2, 4}, {Qt::Key_Home, 0, 5},
-                                                   {Qt::Key_D, 2, 6}};
-        for (const auto& [key, selected, total] : keys) {
-            QTest::keyClick(&list, static_cast<Qt::Key>(key));
-            QCOMPARE(list.SelectedPosition(), selected);
-            QCOMPARE(chosen, total);
-            QTest::qWait(QApplication::keyboardInputInterval() + 10); // a new search
+        QApplication::setKeyboardInputInterval(10);
+        const std::vector<std::pair<QKeyCombination, std::pair<int, int>>> keys{
+            {Qt::Key_Space, {0, 1}}, {Qt::Key_A, {0, 2}},
+            {Qt::Key_Z, {0, 2}},     {Qt::Key_Down, {1, 3}},
+            {Qt::Key_End, {2, 4}},   {Qt::Key_Home, {0, 5}},
+            {Qt::Key_D, {2, 6}},     {Qt::CTRL | Qt::Key_Up, {2, 6}}, // only looks around
+            {Qt::Key_Space, {1, 7}},
+        };
+        for (const auto& [key, expected] : keys) {
+            QTest::keyClick(&list, key.key(), key.keyboardModifiers());
+            QCOMPARE(std::pair(list.SelectedPosition(), chosen), expected);
+            QTest::qWait(20); // a new search
         }
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          list.visualItemRect(list.item(2)).center());
+        QCOMPARE(list.SelectedPosition(), 2);
     }
 
     /// A click of any button counts in the title box, before it pastes.

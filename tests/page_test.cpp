@@ -17,15 +17,22 @@ struct Placed {
     double left, right, top; // twips
 };
 
+/// Starts a reader of the PDF file and waits for what it leaves in a file, to the last: where the program is one for
+/// Windows and the reader is none, neither its end nor its output can be waited for, nor does a folder of the one
+/// mean anything to the other.
+template <class Complete>
+void Read(const QFileInfo& file, const char* reader, QStringList arguments, const char* left, Complete complete)
+{
+    QProcess::startDetached(reader, arguments << file.fileName() << "page", file.path());
+    QVERIFY(QTest::qWaitFor([&] { return complete(file.dir().filePath(left)); }));
+}
+
 /// What a reader of the PDF file finds on its pages.
 std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width, double& height)
 {
-    // What it leaves in a file, to the last line: where the program is one for Windows and the reader is none,
-    // neither its end nor its output can be waited for, nor does a folder of the one mean anything to the other.
-    QProcess::startDetached("pdftotext", {"-bbox", file.fileName(), "words"}, file.path());
     QByteArray found;
-    (void)QTest::qWaitFor([&] {
-        QFile text(file.dir().filePath("words"));
+    Read(file, "pdftotext", {"-bbox"}, "page", [&found](const QString& path) {
+        QFile text(path);
         found = text.open(QIODevice::ReadOnly) ? text.readAll() : QByteArray();
         return found.contains("</html>");
     });
@@ -48,6 +55,26 @@ std::vector<Placed> ReadBack(const QFileInfo& file, int& pages, double& width, d
         }
     }
     return words;
+}
+
+/// Whether the box has its corner where it should, drawn half a point wide.
+void ShowsTheBox(const QFileInfo& file, double scale)
+{
+    const auto pixels = [scale](double twips) { return qRound(twips * scale / 2); }; // at 720 in an inch
+    const QPoint start(pixels(400), pixels(1480));
+    QImage part;
+    Read(file, "pdftoppm",
+         QString("-r 720 -gray -singlefile -W 100 -H 100 -x %1 -y %2").arg(start.x()).arg(start.y()).split(' '),
+         "page.pgm", [&part](const QString& path) { return part.load(path); });
+    const auto dark = [&](int x, int y) { return qGray(part.pixel(x, y)) < 128; };
+    const QPoint corner = QPoint(pixels(499), pixels(1579)) - start;
+    for (int i = 0; i < 100; ++i) {
+        const auto inLine = [&](int from) { return i > from && i < from + pixels(10) - 1; };
+        const auto outside = [&](int from) { return i < from - 1 || i > from + pixels(10); };
+        QVERIFY(dark(i, 99) ? !outside(corner.x()) : !inLine(corner.x()));
+        QVERIFY(dark(99, i) ? !outside(corner.y()) : !inLine(corner.y()));
+    }
+    QVERIFY(dark(corner.x() + 1, corner.y() + 1));
 }
 
 } // namespace
@@ -101,6 +128,7 @@ private slots:
         for (Placed& placed : found)
             for (double* place : {&placed.left, &placed.right, &placed.top})
                 *place /= scale;
+        ShowsTheBox(QFileInfo(path), scale);
         QCOMPARE(pages, 1);
         QCOMPARE(found.size(), static_cast<std::size_t>(1 + words + size * size));
         // The reader has its own order: what counts is that each text stands where it should.
@@ -113,6 +141,8 @@ private slots:
         const auto& title = found.front();
         QCOMPARE(title.text, "Animals");
         QVERIFY(std::abs((title.left + title.right) / 2 - width / 2) <= 0.5 && std::abs(title.top - 720) <= 0.5);
+        QVERIFY(std::abs(title.right - title.left - 3446 * 0.52) <=
+                1); // in thousandths of 26 points, bold and italic
         double column = 720;
         double widest = 0;
         for (int i = 0; i < words; ++i) {

@@ -14,12 +14,15 @@ void Script::Start(generator::RandomSource random)
     Activate();
 }
 
-void Script::Activate()
+QWidget* Script::Activate()
 {
-    Window->activateWindow();
-    const auto focusArrived = [this] { return QApplication::focusWidget() == Window->focusWidget(); };
-    if (!QTest::qWaitForWindowActive(Window.get()) || !QTest::qWaitFor(focusArrived))
-        qFatal("the main window does not become active");
+    QWidget* puzzle = ShownWindow("frmPuzzle");
+    QWidget* window = puzzle != nullptr ? puzzle : Window.get();
+    window->activateWindow();
+    const auto focusArrived = [window] { return QApplication::focusWidget() == window->focusWidget(); };
+    if (!QTest::qWaitForWindowActive(window) || !QTest::qWaitFor(focusArrived))
+        qFatal("%s does not become active", qPrintable(window->objectName()));
+    return window->focusWidget();
 }
 
 void Script::Run(const QString& steps)
@@ -48,6 +51,7 @@ void Script::Step(const QString& step)
         {"clicktitle", [&] { QTest::mouseClick(&Control<QLineEdit>("txtTitle"), Qt::LeftButton); }},
         {"leave", [&] { Control<QLineEdit>("txtNewWords").setFocus(); }},
         {"tabs", [&] { TabRound(); }},
+        {"key", [&] { QTest::keySequence(Activate(), QKeySequence(about)); }},
         {"pick", [&] { Pick(about.toInt()); }},
         {"edit", [&] { Click("cmdEditWord"); }},
         {"delete", [&] { Click("cmdDelete"); }},

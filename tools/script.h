@@ -16,6 +16,7 @@ namespace driving {
 ///     word:TEXT fill:N                        type and enter; N words
 ///     title:TEXT titleenter clicktitle        the title box
 ///     leave tabs                              to the word box, tabs by the Tab key from the list
+///     key:KEYS                                wherever the focus is
 ///     pick:N edit delete create               the list, from 0, and the buttons
 ///     tool:KEY menu:AB                        the toolbar; the menus by their access keys
 ///     print back closepuzzle closemain        the puzzle window, the close boxes
@@ -28,8 +29,8 @@ public:
 
     /// Opens a main window of its own, in the place of the last.
     void Start(generator::RandomSource random = generator::RandomSource());
-    /// Makes the window the active one, as a desktop does when a box has closed.
-    void Activate();
+    /// Makes the window that is shown the active one, as a desktop does when a box has closed; what has the focus.
+    QWidget* Activate();
     void Step(const QString& step);
     /// Steps with blanks between them.
     void Run(const QString& steps);

@@ -3,6 +3,8 @@
 #include "tests/support/puzzles.h"
 #include "tools/script.h"
 
+#include <QAccessible>
+#include <QMetaEnum>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QWindow>
@@ -85,9 +87,9 @@ protected:
         seen.Count = count.text() + (count.palette().color(QPalette::WindowText) == Qt::red ? "!" : "");
         for (const QString& name : Folder.entryList({"new*"})) {
             QFile file(Folder.filePath(name));
-            seen.Files[name] = file.open(QIODevice::ReadOnly)
-                                   ? QString(file.readAll()).remove('"').replace("\r\n", "/")
-                                   : "unreadable";
+            seen.Files[name] = !file.open(QIODevice::ReadOnly) ? "unreadable"
+                               : file.size() > 1000            ? "long"
+                                                    : QString(file.readAll()).remove('"').replace("\r\n", "/");
         }
         seen.Shown = Window->isVisible() ? "frmMain" : "";
         if (const QWidget* puzzle = ShownWindow("frmPuzzle"))
@@ -95,27 +97,41 @@ protected:
         return seen;
     }
 
-    /// What is to be seen of a window's named controls: name, place and size in pixels, font where it is not the
-    /// interface's, text colour, ground where it has one of its own, text, tip.
+    /// What is to be seen of a window and its named controls: name, place and size in pixels, font where it is not
+    /// the interface's, text colour, ground where it has one of its own, alignment, text, tip; what assistive
+    /// technology is told.
     static QStringList Looks(const QWidget& window)
     {
-        QStringList looks;
-        for (const QWidget* control : window.findChildren<QWidget*>()) {
+        QStringList looks{QString("\"%1\" %2x%3 flags %4")
+                              .arg(window.windowTitle())
+                              .arg(window.width())
+                              .arg(window.height())
+                              .arg(window.windowFlags().toInt(), 0, 16)};
+        for (QWidget* control : window.findChildren<QWidget*>()) {
             static const QRegularExpression ours("^(lbl|txt|cmd|lst|pct|.*Toolbar|client)");
-            if (!ours.match(control->objectName()).hasMatch() || control->isHidden())
+            const auto* button = qobject_cast<const QToolButton*>(control);
+            const QString name = button != nullptr ? button->text() : control->objectName();
+            if ((button == nullptr && !ours.match(name).hasMatch()) || control->isHidden())
                 continue;
             const QRect place(control->mapTo(control->window(), QPoint()), control->size());
-            QString look = control->objectName() +
-                           QString::asprintf(" %d,%d %dx%d", place.x(), place.y(), place.width(), place.height());
+            QString look =
+                name + QString::asprintf(" %d,%d %dx%d", place.x(), place.y(), place.width(), place.height());
             if (const QFont font = control->font(); font != QApplication::font())
                 look += ' ' + font.family() + ' ' + QString::number(font.pointSizeF()) +
                         (font.bold() && font.italic() ? " bold italic" : "");
             look += ' ' + control->palette().color(control->foregroundRole()).name();
-            if (control->autoFillBackground())
+            if (control->autoFillBackground() || control->inherits("QAbstractButton"))
                 look += " on " + control->palette().color(control->backgroundRole()).name();
-            for (const char* property : {"text", "toolTip"})
-                if (const QString text = control->property(property).toString(); !text.isEmpty())
-                    look += " \"" + text + '"';
+            static const QSet<QString> usual{"", "false", "NoFocus", "AlignLeading|AlignVCenter",
+                                             "ScrollBarAsNeeded"};
+            for (const char* property : {"alignment", "text", "toolTip", "default", "focusPolicy", "wordWrap",
+                                         "verticalScrollBarPolicy", "horizontalScrollBarPolicy"})
+                if (const QString value = control->property(property).toString(); !usual.contains(value))
+                    look += QString(" %1 \"%2\"").arg(property, value);
+            const auto* spoken = QAccessible::queryAccessibleInterface(control);
+            look += QString(", ") + QMetaEnum::fromType<QAccessible::Role>().valueToKey(spoken->role());
+            if (const QString told = spoken->text(QAccessible::Name); told != control->property("text"))
+                look += " \"" + told + '"';
             looks += look;
         }
         return looks;
@@ -145,6 +161,7 @@ protected:
             shown += name != names.end()                            ? name->second
                      : text.contains("already exists.")             ? "replace?"
                      : text.contains("no such folder")              ? "no folder"
+                     : text.contains("is not writable.")            ? "not writable"
                      : text.contains("cannot become a puzzle yet.") ? "obstacle"
                                                                     : text;
         }
