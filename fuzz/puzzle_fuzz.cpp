@@ -7,16 +7,6 @@
 #include <cstdint>
 #include <cstdlib>
 
-namespace {
-
-void Require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-
-} // namespace
-
 /// Any bytes as a list of words, one a line: what passes the check of the limits becomes a puzzle that keeps every
 /// rule, and a page. The first two bytes are the clock.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -41,12 +31,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (char16_t& character : word)
             character = static_cast<unsigned char>(wordlist::GridLetter(character).value_or(generator::Blank));
     const std::string fault = FaultOf(Solved(workspace, spelt));
-    Require(fault.empty() || fault.starts_with("undecided")); // lists of one letter puzzle the finder
     Recorder page;
-    Require(view::PrintPage(page, u"Title", words, workspace));
-    Require(page.Texts.size() ==
-            1 + words.size() + static_cast<std::size_t>(workspace.PuzzleSize * workspace.PuzzleSize));
+    bool whole = fault.empty() || fault.starts_with("undecided"); // lists of one letter puzzle the finder
+    whole =
+        whole && view::PrintPage(page, u"Title", words, workspace) &&
+        page.Texts.size() == 1 + words.size() + static_cast<std::size_t>(workspace.PuzzleSize * workspace.PuzzleSize);
     for (const auto& text : page.Texts)
-        Require(std::isfinite(text.x) && text.y >= 720 && text.y < 14'400);
+        whole = whole && std::isfinite(text.x) && text.y >= 720 && text.y < 14'400;
+    if (!whole)
+        std::abort();
     return 0;
 }

@@ -1,8 +1,9 @@
 #include "document/character_set.h"
 #include "document/puzzle_file.h"
+#include "tests/support/data.h"
 #include "tests/support/puzzles.h"
 
-#include <QtTest>
+#include <map>
 
 using document::Marker;
 using document::ReadPuzzle;
@@ -21,54 +22,21 @@ private slots:
         QCOMPARE(WritePuzzle(u"\u20AC\u00E9\u0416", {}), std::string("\"2.2\"\r\n\"\x80\xE9?\"\r\n"));
     }
 
-    void ReadsFields_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("marker");
-        QTest::addColumn<QString>("title"); // "-" where there is none
-        QTest::addColumn<QString>("words"); // each followed by '/'
-        const auto row = [](const char* name, const char* bytes, Marker marker, const char* title,
-                            const char* words) {
-            QTest::newRow(name) << QByteArray(bytes) << static_cast<int>(marker) << QString(title) << QString(words);
-        };
-        row("as written", "\"2.2\"\r\n\"Animals\"\r\n\"CAT\"\r\n\"DOG\"\r\n", Marker::Current, "Animals", "CAT/DOG/");
-        row("older", "\"Glyphgrove2.1\"\r\n\"A\"\r\n\"B\"\r\n", Marker::Older, "A", "B/");
-        row("file order", "\"2.2\"\r\n\"T\"\r\n\"dog\"\r\n\"CAT\"\r\n", Marker::Current, "T", "dog/CAT/");
-        row("nothing", "", Marker::Unreadable, "-", "");
-        row("only a quote", "\"", Marker::Unreadable, "-", "");
-        row("empty line", "\r\n\"2.2\"", Marker::Unknown, "-", "");
-        row("other case", "\"glyphgrove2.1\"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
-        row("blank in the marker", "\"2.2 \"\r\n\"A\"\r\n", Marker::Unknown, "-", "");
-        row("only the marker", "\"2.2\"\r\n", Marker::Current, "-", "");
-        row("comma and blanks in quotes", "\"2.2\"\r\n\" a, b \"\r\n\"C D\"\r\n", Marker::Current, " a, b ", "C D/");
-        row("quote in the title", "\"2.2\"\r\n\"Say \"Hi\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ", "CAT/");
-        row("comma after a quote", "\"2.2\"\r\n\"Say \"Hi, Ho\"\"\r\n\"CAT\"\r\n", Marker::Current, "Say ",
-            "Ho\"\"/CAT/");
-        row("empty title", "\"2.2\"\r\n\"\"\r\n\"CAT\"\r\n", Marker::Current, "", "CAT/");
-        row("empty word", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\"\"\r\n\"B\"\r\n", Marker::Current, "T", "A/");
-        row("empty line among words", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\r\n\"B\"\r\n", Marker::Current, "T", "A/");
-        row("commas", "2.2,T,\"A\",B\r\n", Marker::Current, "T", "A/B/");
-        row("unquoted, blanks round it", "2.2\r\n  My title  \r\n A B \r\n", Marker::Current, "My title", "A B/");
-        row("line feeds", "\"2.2\"\n\"T\"\nA\n\"B\"\n", Marker::Current, "T", "A/B/");
-        row("carriage returns", "\"2.2\"\r\"T\"\rA\r\"B\"\r", Marker::Current, "T", "A/B/");
-        row("no last line end", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\nB", Marker::Current, "T", "A/B/");
-        row("torn in a word", "\"2.2\"\r\n\"T\"\r\n\"A\"\r\n\"B", Marker::Current, "T", "A/");
-        row("torn in the title", "\"2.2\"\r\n\"T", Marker::Current, "-", "");
-    }
-
+    /// What it is about, the bytes with "'" for the quote, what is read: kind of file, title, words.
     void ReadsFields()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, marker);
-        QFETCH(QString, title);
-        QFETCH(QString, words);
-        const auto file = ReadPuzzle(bytes.toStdString());
-        QCOMPARE(static_cast<int>(file.marker), marker);
-        QCOMPARE(QString::fromStdU16String(file.title.value_or(u"-")), title);
-        QString joined;
-        for (const auto& word : file.words)
-            joined += QString::fromStdU16String(word) + '/';
-        QCOMPARE(joined, words);
+        const std::map<Marker, QString> markers{{Marker::Current, "Current"},
+                                                {Marker::Older, "Older"},
+                                                {Marker::Unknown, "Unknown"},
+                                                {Marker::Unreadable, "Unreadable"}};
+        for (const QStringList& row : Rows("fields.json")) {
+            const auto file = ReadPuzzle(QString(row[1]).replace('\'', '"').toStdString());
+            QString told = row[0] + ": " + markers.at(file.marker);
+            told += file.title ? " [" + QString::fromStdU16String(*file.title) + "] " : " ";
+            for (const auto& word : file.words)
+                told += QString::fromStdU16String(word) + '/';
+            QCOMPARE(told.replace('"', '\''), row[0] + ": " + row[2]);
+        }
     }
 
     void BoundsWhatItReads()

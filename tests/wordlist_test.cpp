@@ -1,59 +1,28 @@
+#include "tests/support/data.h"
 #include "tests/support/puzzles.h"
 #include "wordlist/entry.h"
 #include "wordlist/letters.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
 
-#include <QtTest>
-
 #include <algorithm>
-
-namespace {
-constexpr bool Typed = true;
-constexpr bool Pasted = false;
-} // namespace
 
 class WordListTest : public QObject {
     Q_OBJECT
 
 private slots:
+    /// What it is about, how it comes, from which text to which one, what becomes of it.
     void AdmitsEdits()
     {
-        const auto becomes = [](const QString& before, const QString& wanted, bool typed) {
-            auto after = before.toStdU16String();
-            const auto change =
-                wordlist::AdmitEdit(after, {wanted.toStdU16String(), typed}, {wordlist::FilterWord, 20});
-            if (!change)
-                return QString("discarded");
-            after.replace(change->position, change->removed, change->inserted);
-            return QString::fromStdU16String(after);
-        };
-        QCOMPARE(becomes("CA", "CAt", Typed), "CAt");
-        QCOMPARE(becomes("CA", "CA1", Typed), "discarded");
-        QCOMPARE(becomes("CAT", "C1", Typed), "discarded"); // digit over a selection
-        QCOMPARE(becomes("CA", "C\u00C9", Typed), "discarded");
-        QCOMPARE(becomes("CAT", "C-AT", Typed), "discarded"); // hyphen in the middle
-        QCOMPARE(becomes("CAT", " CAT", Typed), " CAT");      // blank at the front of a word
-        QCOMPARE(becomes("", " ", Typed), "discarded");
-        QCOMPARE(becomes("CAT", " ", Typed), " ");                            // blank over all that was selected
-        QCOMPARE(becomes("", "  3 ice-creams!", Pasted), "icecreams");        // paste of a phrase
-        QCOMPARE(becomes("CAT", " DOG", Pasted), "DOG");                      // paste over all
-        QCOMPARE(becomes("CAT", " CAT", Pasted), "discarded");                // paste of all over all
-        QCOMPARE(becomes("CAT FOOD", " DOG FOOD", Pasted), "DOG FOOD");       // paste over the front
-        QCOMPARE(becomes("CAT", "  DOGCAT", Pasted), "DOGCAT");               // paste in front
-        QCOMPARE(becomes("ICE", "ICE CREAM 2", Pasted), "ICE CREAM ");        // paste at the end
-        QCOMPARE(becomes("CAT", "C123", Pasted), "discarded");                // paste that leaves nothing
-        QCOMPARE(becomes("", "CAT\nDOG\tFOX\u2028", Pasted), "CAT DOG FOX "); // paste with line ends
-        QCOMPARE(becomes("ABCDEFGHIJ", "ABCDEKLMNOPQRSTUVFGHIJ", Pasted), "ABCDEKLMNOPQRSTFGHIJ"); // paste cut at 20
-        QCOMPARE(becomes("ABCDEFGHIJKLMNOPQRST", "ABCDEFGHIJKLMNOPQRSTU", Typed), "discarded");
-        QCOMPARE(becomes("ABCDEFGHIJKLMNOPQRSTUVW", "AxBCDEFGHIJKLMNOPQRSTUVW", Typed),
-                 "discarded"); // too long from a file, a letter more
-        QCOMPARE(becomes("ABCDEFGHIJKLMNOPQRSTUV-1", "ABCDEFGHIJKLMNOPQRSTU-1", Typed),
-                 "ABCDEFGHIJKLMNOPQRSTU-1"); // too long from a file, a letter less
-        QCOMPARE(becomes("AAA", "AAAA", Typed), "AAAA");
-        QCOMPARE(becomes("CAT", "", Typed), "");
-        QCOMPARE(becomes("ABAB", "AB", Typed), "AB");
-        QCOMPARE(becomes("", "@AZ[`az{", Pasted), "AZaz");
+        for (const QStringList& row : Rows("edits.json")) {
+            auto text = row[2].toStdU16String();
+            const wordlist::Edit edit{row[3].toStdU16String(), row[1] == "typed"};
+            const auto change = wordlist::AdmitEdit(text, edit, {wordlist::FilterWord, 20});
+            if (change)
+                text.replace(change->position, change->removed, change->inserted);
+            const QString admitted = change ? QString::fromStdU16String(text) : "discarded";
+            QCOMPARE((row.first(4) << admitted).join(" > "), row.join(" > "));
+        }
     }
 
     void InsertsInAlphabeticalOrder()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/data.h"
 #include "tests/support/puzzles.h"
 #include "tools/script.h"
 
@@ -11,7 +12,6 @@
 #include <QtTest>
 
 #include <array>
-#include <map>
 #include <memory>
 
 using namespace driving;
@@ -55,21 +55,6 @@ class WindowScript : public QObject, protected Script {
     Q_OBJECT
 
 protected:
-    void WriteFile(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(Folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-
-    /// A text of the folder data.
-    static QString Data(const QString& name)
-    {
-        QFile file(QFINDTESTDATA("../data/" + name));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-            qFatal("cannot read %s", qPrintable(name));
-        return QString::fromUtf8(file.readAll()).trimmed();
-    }
-
     Seen State()
     {
         Seen seen{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text()};
@@ -141,29 +126,12 @@ protected:
     /// is.
     QString Boxes()
     {
-        static const std::map<QString, QString> names{
-            {"Important: Do you want to save the changes you made to your Glyphgrove?", "save?"},
-            {"Duplicate warning: Word already exists in your list! Do you want to put it into your list "
-             "again?",
-             "again?"},
-            {"Word Limit!: 40 word limit reached!", "limit"},
-            {"Important!: This is a Glyphgrove 2.1 file. For maximum performance, saving this file will "
-             "update it "
-             "to 2.1.1 format.",
-             "older"},
-            {"WARNING!: Not a valid Glyphgrove 2.2 File or file corrupted", "bad"},
-            {"Glyphgrove: You must have at least one word to save the puzzle.", "nothing to save"},
-            {"dlgFileName", "file"},
-        };
         QStringList shown;
         for (const QString& text : Answering.Shown()) {
-            const auto name = names.find(text);
-            shown += name != names.end()                            ? name->second
-                     : text.contains("already exists.")             ? "replace?"
-                     : text.contains("no such folder")              ? "no folder"
-                     : text.contains("is not writable.")            ? "not writable"
-                     : text.contains("cannot become a puzzle yet.") ? "obstacle"
-                                                                    : text;
+            shown += text;
+            for (const QStringList& row : Rows("boxes.json"))
+                if (text == row[1] || (row[1].startsWith('*') && text.contains(row[1].mid(1))))
+                    shown.last() = row[0];
         }
         return shown.join(' ');
     }
@@ -181,12 +149,8 @@ private slots:
     {
         Disk = std::make_unique<QTemporaryDir>();
         Folder = QDir(Disk->path());
-        WriteFile("good.pux", "\"2.2\"\r\n\"Pets\"\r\n\"DOG\"\r\n\"CAT\"\r\n");
-        WriteFile("older.pux", "\"Glyphgrove2.1\"\r\n\"Old\"\r\n\"DOG\"\r\n");
-        WriteFile("bad.pux", "\"Glyph\"\r\n\"T\"\r\n\"DOG\"\r\n");
-        WriteFile("long.pux", "\"2.2\"\r\n\"A title of over thirty characters\"\r\n\"AWORDOFOVERTWENTYLETTERS\"\r\n");
-        WriteFile("many.pux", "\"2.2\"\r\n\"M\"\r\n" + QByteArray("W\r\n").repeated(41));
-        WriteFile("full.pux", "\"2.2\"\r\n\"F\"\r\n" + QByteArray("W\r\n").repeated(40));
+        for (const QFileInfo& file : QFileInfo(QFINDTESTDATA("../data/good.pux")).dir().entryInfoList({"*.pux"}))
+            QFile::copy(file.filePath(), Folder.filePath(file.fileName()));
         Answering.Shown();
         Start(FixedRandom(1));
     }
