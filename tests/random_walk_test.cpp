@@ -4,22 +4,17 @@
 
 namespace {
 
-struct Document {
-    QString marker, title;
-    QStringList words;
-};
-
 /// The program as its rules have it, without a window. It answers the boxes that it brings up by chance and
 /// notes box and answer for the real window to be given the same.
 struct Model : Seen {
     QRandomGenerator& Chance;
-    QMap<QString, Document>& Disk;
+    QMap<QString, QString>& Disk; ///< files as Seen has them
     QStringList Boxes, Answers;
     QString DocFileName, SelectedWord;
     int EditIndex = -1;
     bool Saved = true, TitleSet = false, InTitle = false;
 
-    Model(QRandomGenerator& chance, QMap<QString, Document>& disk)
+    Model(QRandomGenerator& chance, QMap<QString, QString>& disk)
         : Seen{"Glyphgrove - New Puzzle", "New Puzzle"}, Chance(chance), Disk(disk)
     {
     }
@@ -137,20 +132,21 @@ struct Model : Seen {
         Answers.last() = "file:" + path;
         Reset();
         Create = true;
-        const Document file = Disk.value(path);
-        DocFileName = file.marker == "bad" ? "" : path;
-        if (file.marker == "older" || file.marker == "bad")
-            Ask(file.marker, {"ok", "escape"});
-        if (file.marker == "bad")
+        QStringList file = Disk.value(path).split('/');
+        const QString marker = file.takeFirst();
+        DocFileName = marker == "Glyph" ? "" : path;
+        if (marker.startsWith("Glyph"))
+            Ask(marker == "Glyph" ? "bad" : "older", {"ok", "escape"});
+        if (marker == "Glyph")
             return;
         Save = SaveAs = TitleSet = true;
-        Title = Disk.contains(path) ? file.title : Title;
-        Words = file.words;
+        Title = marker.isEmpty() ? Title : file.takeFirst();
+        Words = file.first(std::max(file.size() - 1, qsizetype(0)));
         Caption = "Glyphgrove-" + Title;
     }
     void Write(const QString& path)
     {
-        Disk[path] = {"", Title, Words};
+        Disk[path] = (QStringList{"2.2", Title} + Words).join('/') + '/';
         Caption = "Glyphgrove-" + Title;
         Saved = true;
     }
@@ -248,9 +244,8 @@ struct Model : Seen {
         if (done)
             act();
         Count = QString::number(Words.size()) + (Words.size() >= 40 ? "!" : "");
-        for (const char* name : {"new1.pux", "new2.pux"})
-            if (Disk.contains(name))
-                Files[name] = (QStringList{"2.2", Disk[name].title} + Disk[name].words).join('/') + '/';
+        for (const QString& name : Disk.keys().filter("new"))
+            Files[name] = Disk[name];
         return done;
     }
 };
@@ -268,12 +263,7 @@ private slots:
         const int count = std::max(qEnvironmentVariableIntValue("GLYPHGROVE_ACTIONS"), 1500);
         const int seed = qEnvironmentVariableIntValue("GLYPHGROVE_SEED");
         qInfo("seed %d, %d actions", seed, count);
-        const QString longTitle = "A title of over thirty characters";
-        QMap<QString, Document> disk{{"good.pux", {"", "Pets", {"DOG", "CAT"}}},
-                                     {"older.pux", {"older", "Old", {"DOG"}}},
-                                     {"bad.pux", {"bad", "", {}}},
-                                     {"long.pux", {"", longTitle, {"AWORDOFOVERTWENTYLETTERS"}}},
-                                     {"many.pux", {"", "M", QStringList(QList<QString>(41, "W"))}}};
+        QMap<QString, QString> disk = Files("*.pux");
         QRandomGenerator chance(static_cast<quint32>(seed));
         auto model = std::make_unique<Model>(chance, disk);
         const QStringList steps =
@@ -291,17 +281,13 @@ private slots:
             if (!model->Do(step))
                 continue;
             ++i;
-            done += (model->Answers + QStringList(step)).join(' ');
-            if (Window->isVisible())
-                Activate(); // as a desktop does when a box has closed
+            done = done.mid(done.size() - 11) << (model->Answers + QStringList(step)).join(' ');
+            Activate(); // as a desktop does when a box has closed
             for (const QString& answer : std::exchange(model->Answers, {}))
                 Step(answer);
             Step(step);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            const QString last = QString("seed %1, action %2, the last of: %3")
-                                     .arg(seed)
-                                     .arg(i)
-                                     .arg(done.mid(done.size() - 12).join("; "));
+            const QString last = QString("seed %1, action %2: ").arg(seed).arg(i) + done.join("; ");
             QVERIFY2(Answering.Done(), qPrintable(last));
             QVERIFY2(Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == *model,
                      qPrintable(last + "\nwindow " + State().Line() + "\nmodel  " + model->Line()));

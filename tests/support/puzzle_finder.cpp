@@ -7,12 +7,6 @@
 namespace {
 
 using Cells = std::bitset<900>;
-constexpr int SearchBudget = 20'000;
-
-bool Clash(const Cells& one, const Cells& other)
-{
-    return (one & other).count() > 1;
-}
 
 bool Within(int position, int size)
 {
@@ -53,34 +47,21 @@ std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::stri
 }
 
 /// Chooses a place for each word so that no two share more than one cell: always the word with the fewest
-/// places left first, taking from the others what its place rules out.
-class Chooser {
-public:
-    std::string Fault(std::vector<std::vector<Cells>> places)
-    {
-        if (Choose(std::move(places)))
-            return "";
-        return Budget > 0 ? "two words share more than one cell" : "undecided whether words overlap";
-    }
-
-private:
-    bool Choose(std::vector<std::vector<Cells>> places)
-    {
-        if (places.empty())
-            return true;
-        std::ranges::iter_swap(std::ranges::min_element(places, {}, &std::vector<Cells>::size), places.end() - 1);
-        const auto candidates = std::move(places.back());
-        places.pop_back();
-        return std::ranges::any_of(candidates, [&](const Cells& chosen) {
-            auto left = places;
-            for (auto& word : left)
-                std::erase_if(word, [&](const Cells& place) { return Clash(place, chosen); });
-            return --Budget > 0 && Choose(std::move(left));
-        });
-    }
-
-    int Budget = SearchBudget;
-};
+/// places left first, taking from the others what its place rules out. `budget` bounds the search.
+bool Choose(std::vector<std::vector<Cells>> places, int& budget)
+{
+    if (places.empty())
+        return true;
+    std::ranges::iter_swap(std::ranges::min_element(places, {}, &std::vector<Cells>::size), places.end() - 1);
+    const auto candidates = std::move(places.back());
+    places.pop_back();
+    return std::ranges::any_of(candidates, [&](const Cells& chosen) {
+        auto left = places;
+        for (auto& word : left)
+            std::erase_if(word, [&](const Cells& place) { return (place & chosen).count() > 1; });
+        return --budget > 0 && Choose(std::move(left), budget);
+    });
+}
 
 } // namespace
 
@@ -96,5 +77,8 @@ std::string FaultOf(const SolvedPuzzle& puzzle)
         if (places.back().empty())
             return "not to be found: " + word;
     }
-    return Chooser().Fault(std::move(places));
+    int budget = 20'000;
+    if (Choose(std::move(places), budget))
+        return "";
+    return budget > 0 ? "two words share more than one cell" : "undecided whether words overlap";
 }

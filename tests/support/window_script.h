@@ -55,6 +55,19 @@ class WindowScript : public QObject, protected Script {
     Q_OBJECT
 
 protected:
+    /// The files that are there, as Seen has them.
+    QMap<QString, QString> Files(const QString& names) const
+    {
+        QMap<QString, QString> files;
+        for (const QString& name : Folder.entryList({names})) {
+            QFile file(Folder.filePath(name));
+            files[name] = !file.open(QIODevice::ReadOnly) ? "unreadable"
+                          : file.size() > 1000            ? "long"
+                                                          : QString(file.readAll()).remove('"').replace("\r\n", "/");
+        }
+        return files;
+    }
+
     Seen State()
     {
         Seen seen{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text()};
@@ -70,12 +83,7 @@ protected:
         seen.EditMode = Control<QPushButton>("cmdEnter").text() == "Enter (EditMode)";
         const auto& count = Control<QLabel>("lblWordCount");
         seen.Count = count.text() + (count.palette().color(QPalette::WindowText) == Qt::red ? "!" : "");
-        for (const QString& name : Folder.entryList({"new*"})) {
-            QFile file(Folder.filePath(name));
-            seen.Files[name] = !file.open(QIODevice::ReadOnly) ? "unreadable"
-                               : file.size() > 1000            ? "long"
-                                                    : QString(file.readAll()).remove('"').replace("\r\n", "/");
-        }
+        seen.Files = Files("new*");
         seen.Shown = Window->isVisible() ? "frmMain" : "";
         if (const QWidget* puzzle = ShownWindow("frmPuzzle"))
             seen.Shown += puzzle->objectName();
