@@ -71,7 +71,6 @@ void frmMain::ConfirmEdit()
     lstWordlist->Remove(EditIndex);
     lstWordlist->Insert(EditIndex, word);
     ClearTextbox();
-    WordCounter();
     Saved = false;
     ShowEditButtons(false);
     cmdCreatePuzzle->setEnabled(true);

@@ -106,6 +106,8 @@ private slots:
         device.Printer().setPageOrientation(size % 2 == 0 ? QPageLayout::Portrait : QPageLayout::Landscape);
         device.Printer().setOutputFileName(path);
         QVERIFY(view::PrintPage(device, u"Animals", list, grid));
+        device.Printer().setOutputFileName("/dev/null");
+        QVERIFY(!device.EndDocument()); // it is no file
 
         int pages = 0;
         double width = 0;

@@ -12,15 +12,9 @@ constexpr int Rows = 10;
 
 WordList::WordList(QWidget* parent) : QListWidget(parent)
 {
-    setFlow(QListView::TopToBottom);
     setWrapping(true);
-    setResizeMode(QListView::Adjust);
-    setUniformItemSizes(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setDragDropMode(QAbstractItemView::NoDragDrop);
     setViewportMargins(1, 1, 1, 1); // at fractional scales the entries' ground would cover the border
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
