@@ -217,7 +217,6 @@ void frmMain::Form_Activate()
 
 void frmMain::showEvent(QShowEvent* event)
 {
-    ClientWindow::showEvent(event);
     if (!event->spontaneous()) // the desktop's own un-minimising is none of these
         Form_Activate();
 }
@@ -230,7 +229,6 @@ void frmMain::keyPressEvent(QKeyEvent* event)
         ToolbarSave();
         return;
     }
-    event->setAccepted(false);
     ClientWindow::keyPressEvent(event);
     if (!event->isAccepted() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         cmdEnter->click();

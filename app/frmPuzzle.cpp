@@ -48,7 +48,7 @@ void frmPuzzle::BuildTitle()
 
 void frmPuzzle::BuildWordLabels()
 {
-    for (int i = 0; i < WordPlaces; ++i) {
+    for (int i = 0; i < wordlist::MaxWords; ++i) {
         auto* label = new QLabel(Client);
         label->setObjectName(QStringLiteral("lblWords%1").arg(i));
         label->setTextFormat(Qt::PlainText);
@@ -114,8 +114,7 @@ void frmPuzzle::cmdPrint_Click()
     emit PrintRequested();
 }
 
-void frmPuzzle::closeEvent(QCloseEvent* event)
+void frmPuzzle::closeEvent(QCloseEvent* /*event*/)
 {
-    event->accept();
     emit Unloaded();
 }

@@ -3,6 +3,7 @@
 #include "app/widgets/client_window.h"
 #include "app/widgets/puzzle_surface.h"
 #include "app/widgets/title_label.h"
+#include "wordlist/limits.h"
 
 #include <QPushButton>
 
@@ -14,7 +15,6 @@ class frmPuzzle : public ClientWindow {
     Q_OBJECT
 
 public:
-    static constexpr int WordPlaces = 40;
     static constexpr int SurfaceWidth = 7815; ///< twips; the surface is square
 
     frmPuzzle();
@@ -41,6 +41,6 @@ private:
     void cmdPrint_Click();
 
     TitleLabel* lblBigTitle;
-    std::array<QLabel*, WordPlaces> lblWords;
+    std::array<QLabel*, wordlist::MaxWords> lblWords;
     QPushButton* cmdPrint;
 };

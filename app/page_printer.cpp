@@ -73,7 +73,7 @@ bool PagePaper::EndDocument()
     if (Device.outputFormat() == QPrinter::PdfFormat)
         return WritePdf();
     Device.setResolution(TwipsPerInch); // the dialog or another printer may have set its own
-    return PaintOn(Device) && Device.printerState() != QPrinter::Error;
+    return PaintOn(Device);
 }
 
 /// A file that finds no room leaves nothing behind, and an earlier one of its name as it was.

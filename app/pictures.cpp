@@ -1,6 +1,6 @@
 #include "app/pictures.h"
 
-/// A library's resources are left out of a program that does not ask for them; the macro wants no namespace.
+/// A library's resources are left out of a program that does not ask for them, once; the macro wants no namespace.
 static void KeepResources()
 {
     Q_INIT_RESOURCE(glyphgrove);
@@ -21,7 +21,6 @@ QIcon ForToolbar(const QString& name)
 
 QIcon OfProgram()
 {
-    KeepResources();
     QIcon icon;
     for (const int size : {16, 32, 48, 64}) // for title bars and task bars; larger ones the desktop finds itself
         icon.addFile(QStringLiteral(":/pictures/glyphgrove-%1.png").arg(size), QSize(size, size));

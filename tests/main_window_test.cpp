@@ -82,7 +82,14 @@ private slots:
         auto& list = Control<WordList>("lstWordlist");
         int chosen = 0;
         connect(&list, &WordList::Chosen, &list, [&chosen] { ++chosen; });
-        list.setFocus();
+        for (const auto& [key, row] :
+             {std::pair(Qt::Key_Home, 0), {Qt::Key_End, 2}, {Qt::Key_Down, 1}, {Qt::Key_Up, 1}}) {
+            list.setCurrentRow(row, QItemSelectionModel::Clear); // only looked at
+            QTest::keyClick(&list, key);
+            QCOMPARE(list.SelectedPosition(), row);
+        }
+        QCOMPARE(std::exchange(chosen, 0), 4);
+        list.setCurrentRow(0, QItemSelectionModel::Clear);
         QApplication::setKeyboardInputInterval(10);
         const std::vector<std::pair<QKeyCombination, std::pair<int, int>>> keys{
             {Qt::Key_Space, {0, 1}}, {Qt::Key_A, {0, 2}},
@@ -111,6 +118,11 @@ private slots:
         QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), title.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&title, &menu);
         QCOMPARE(title.text(), QString());
+        delete QApplication::activePopupWidget();
+        auto& word = Control<QLineEdit>("txtNewWords");
+        QApplication::sendEvent(&word, &menu); // where the keys of copying and pasting do nothing
+        for (const QAction* action : QApplication::activePopupWidget()->actions())
+            QVERIFY(!action->text().contains('\t') && action->text().isEmpty() == action->isSeparator());
         delete QApplication::activePopupWidget();
         title.setText("Pets");
         QTest::mouseClick(&title, Qt::MiddleButton);

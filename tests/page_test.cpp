@@ -62,14 +62,15 @@ void ShowsTheBox(const QFileInfo& file, double scale)
          QString("-r 720 -gray -singlefile -W 100 -H 100 -x %1 -y %2").arg(start.x()).arg(start.y()).split(' '),
          "page.pgm", [&part](const QString& path) { return part.load(path); });
     const auto dark = [&](int x, int y) { return qGray(part.pixel(x, y)) < 128; };
-    const QPoint corner = QPoint(pixels(499), pixels(1579)) - start;
+    QRect across, down; // what of the lines meets the part's last row and column
     for (int i = 0; i < 100; ++i) {
-        const auto inLine = [&](int from) { return i > from && i < from + pixels(10) - 1; };
-        const auto outside = [&](int from) { return i < from - 1 || i > from + pixels(10); };
-        QVERIFY(dark(i, 99) ? !outside(corner.x()) : !inLine(corner.x()));
-        QVERIFY(dark(99, i) ? !outside(corner.y()) : !inLine(corner.y()));
+        across |= dark(i, 99) ? QRect(i, 0, 1, 1) : QRect();
+        down |= dark(99, i) ? QRect(i, 0, 1, 1) : QRect();
     }
-    QVERIFY(dark(corner.x() + 1, corner.y() + 1));
+    for (const auto& [line, from] :
+         {std::pair(across, pixels(499) - start.x()), std::pair(down, pixels(1579) - start.y())})
+        QVERIFY(std::abs(line.left() - from) <= 1 && std::abs(line.width() - 5 * scale) < 1);
+    QVERIFY(dark(across.left(), down.left()));
 }
 
 } // namespace

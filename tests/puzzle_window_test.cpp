@@ -181,7 +181,7 @@ private slots:
         for (int row = 0; row < 10; ++row) {
             QCOMPARE(grid->child(row)->text(QAccessible::Name), surface.Rows().at(row));
             QCOMPARE(grid->indexOfChild(grid->child(row)), row);
-            QVERIFY(grid->rect().contains(grid->child(row)->rect()));
+            QVERIFY(grid->rect().contains(grid->child(row)->rect()) && grid->child(row)->state().readOnly);
         }
         QVERIFY(grid->child(10) == nullptr);
     }
