@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <map>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -69,20 +68,17 @@ private slots:
 
     void FollowsLinks()
     {
-        const std::map<QString, QString> links{{"file.lnk", File},
-                                               {"chain.lnk", "file.lnk"},
-                                               {"nowhere.lnk", "new.pux"},
-                                               { "circle.lnk",
-                                                 "circle.lnk" }};
-        for (const auto& [name, target] : links)
-            QVERIFY(QFile::link(target, Folder.filePath(name)));
+        const QStringList links{"file.lnk", "chain.lnk", "nowhere.lnk", "circle.lnk"};
+        const QStringList targets{File, "file.lnk", "new.pux", "circle.lnk"};
+        for (int i = 0; i < links.size(); ++i)
+            QVERIFY(QFile::link(targets[i], Folder.filePath(links[i])));
         QVERIFY(file_bytes::Save(Folder.filePath("chain.lnk"), "new"));
         QCOMPARE(Contents(File), "new");
         QVERIFY(file_bytes::Save(Folder.filePath("nowhere.lnk"), "new"));
         QCOMPARE(Contents(Folder.filePath("new.pux")), "new");
         QVERIFY(!file_bytes::Save(Folder.filePath("circle.lnk"), "new"));
-        for (const auto& [name, target] : links)
-            QVERIFY(QFileInfo(Folder.filePath(name)).isSymLink());
+        for (const QString& link : links)
+            QVERIFY(QFileInfo(Folder.filePath(link)).isSymLink());
     }
 
     /// A disk without room for the new contents, in a folder that takes new files and in one that does not.
