@@ -52,20 +52,22 @@ private slots:
     {
         // So many words of one length, one more of the rest, the size that the grid gets. 57 letters are enough for
         // 10, 69 for 11; a word needs a grid larger than itself.
-        for (const QString row : {"0 0 0 10", "6 9 3 10", "6 9 4 11", "7 9 6 11", "7 9 7 12", "28 16 0 28",
-                                  "30 16 0 29", "30 16 1 30", "40 20 0 30", "1 9 0 10", "1 10 0 12", "11 20 0 22"}) {
-            const QStringList numbers = row.split(' ');
-            Words list(numbers[0].toUInt(), std::u16string(numbers[1].toUInt(), u'A'));
-            if (numbers[2] != "0")
-                list.emplace_back(numbers[2].toUInt(), u'B');
+        using Row = std::array<int, 4>;
+        for (const auto& [count, length, rest, size] :
+             {Row{0, 0, 0, 10}, Row{6, 9, 3, 10}, Row{6, 9, 4, 11}, Row{7, 9, 6, 11}, Row{7, 9, 7, 12},
+              Row{28, 16, 0, 28}, Row{30, 16, 0, 29}, Row{30, 16, 1, 30}, Row{40, 20, 0, 30}, Row{1, 9, 0, 10},
+              Row{1, 10, 0, 12}, Row{11, 20, 0, 22}}) {
+            Words list(static_cast<std::size_t>(count), std::u16string(static_cast<std::size_t>(length), u'A'));
+            if (rest > 0)
+                list.emplace_back(rest, u'B');
             PuzzleWorkspace workspace(FixedRandom(1));
             workspace.LoadWordsArray(Words(40, u"ABCDEFGHIJKLMNOPQRST")); // must leave no trace
             workspace.ClearWordsArray();
             workspace.LoadWordsArray(list);
             workspace.SetPuzzleSize();
-            QCOMPARE(workspace.LetterCount, numbers[0].toInt() * numbers[1].toInt() + numbers[2].toInt());
-            QCOMPARE(workspace.LongestWord, numbers[1].toInt());
-            QCOMPARE(workspace.PuzzleSize, numbers[3].toInt());
+            QCOMPARE(workspace.LetterCount, count * length + rest);
+            QCOMPARE(workspace.LongestWord, length);
+            QCOMPARE(workspace.PuzzleSize, size);
         }
     }
 

@@ -288,8 +288,7 @@ private slots:
             Step(step);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             const QString last = QString("seed %1, action %2: ").arg(seed).arg(i) + done.join("; ");
-            QVERIFY2(Answering.Done(), qPrintable(last));
-            QVERIFY2(Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == *model,
+            QVERIFY2(Answering.Done() && Boxes() == std::exchange(model->Boxes, {}).join(' ') && State() == *model,
                      qPrintable(last + "\nwindow " + State().Line() + "\nmodel  " + model->Line()));
             if (model->Shown.isEmpty()) {
                 model = std::make_unique<Model>(chance, disk);

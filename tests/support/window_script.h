@@ -121,6 +121,8 @@ protected:
                                          "verticalScrollBarPolicy", "horizontalScrollBarPolicy"})
                 if (const QString value = control->property(property).toString(); !usual.contains(value))
                     look += QString(" %1 \"%2\"").arg(property, value);
+            if (button != nullptr)
+                look += QString(" pictures %1").arg(button->icon().availableSizes().size());
             const auto* spoken = QAccessible::queryAccessibleInterface(control);
             look += QString(", ") + QMetaEnum::fromType<QAccessible::Role>().valueToKey(spoken->role());
             if (const QString told = spoken->text(QAccessible::Name); told != control->property("text"))
