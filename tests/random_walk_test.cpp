@@ -191,11 +191,6 @@ struct Model : Seen {
                 Word += c;
     }
     void Close() { Shown = CheckForSave() ? Shown : ""; }
-    void Back()
-    {
-        Shown = "frmMain";
-        Word.clear();
-    }
     void ClickTitle()
     {
         InTitle = true;
@@ -209,8 +204,10 @@ struct Model : Seen {
     /// Does what the step of a script says; false where the window would not let the user.
     bool Do(const QString& step)
     {
+        const bool back = step == "back" || step == "closepuzzle";
+        if (back != (Shown == "frmPuzzle"))
+            return false;
         const QString about = step.section(':', 1).replace('_', ' ');
-        const bool puzzle = Shown == "frmPuzzle";
         const std::map<QString, std::pair<bool, std::function<void()>>> actions{
             {"type", {true, [&] { Type(about); }}},
             {"enter", {true, [&] { Enter(); }}},
@@ -235,18 +232,16 @@ struct Model : Seen {
             {"closemain", {true, [&] { Close(); }}},
             {"menu:ha", {true, [&] { Ask("frmAbout", {"escape"}), Word.clear(); }}},
             {"create", {Create, [&] { CreatePuzzle(); }}},
-            {"back", {puzzle, [&] { Back(); }}},
-            {"closepuzzle", {puzzle, [&] { Back(); }}},
+            {"back", {true, [&] { Shown = "frmMain", Word.clear(); }}},
         };
-        const auto exact = actions.find(step);
+        const auto exact = actions.find(back ? "back" : step);
         const auto& [possible, act] = exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
-        const bool done = possible && (!puzzle || step == "back" || step == "closepuzzle");
-        if (done)
+        if (possible)
             act();
         Count = QString::number(Words.size()) + (Words.size() >= 40 ? "!" : "");
         for (const QString& name : Disk.keys().filter("new"))
             Files[name] = Disk[name];
-        return done;
+        return possible;
     }
 };
 
