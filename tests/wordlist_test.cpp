@@ -27,18 +27,14 @@ private slots:
 
     void InsertsInAlphabeticalOrder()
     {
-        const auto place = [](const Words& words, std::u16string_view word) {
-            return static_cast<int>(wordlist::InsertPosition(words, word));
-        };
+        // After those that compare equal; a blank comes before any letter.
         const Words words{u"ant", u"Bee", u"cat", u"Cat", u"ICE AGE", u"ICEBERG", u"\u00C9lan"};
-        QCOMPARE(place({}, u"cat"), 0);
-        QCOMPARE(place(words, u"AAA"), 0);
-        QCOMPARE(place(words, u"BEE"), 2);
-        QCOMPARE(place(words, u"CAT"), 4); // after those that compare equal
-        QCOMPARE(place(words, u"ice"), 4);
-        QCOMPARE(place(words, u"ice cream"), 5); // a blank before any letter
-        QCOMPARE(place(words, u"zoo"), 7);
-        QCOMPARE(place({u"cat", u"dog", u"\u00C9lan", u"fox"}, u"elm"), 3);
+        const std::map<std::u16string, std::size_t> places{{u"AAA", 0}, {u"BEE", 2},       {u"CAT", 4},
+                                                           {u"ice", 4}, {u"ice cream", 5}, {u"zoo", 7}};
+        for (const auto& [word, place] : places)
+            QCOMPARE(wordlist::InsertPosition(words, word), place);
+        QCOMPARE(wordlist::InsertPosition({}, u"cat"), 0U);
+        QCOMPARE(wordlist::InsertPosition(Words{u"cat", u"dog", u"\u00C9lan", u"fox"}, u"elm"), 3U);
 
         generator::RandomSource random = FixedRandom(3);
         Words grown;
