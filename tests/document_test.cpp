@@ -5,6 +5,7 @@
 #include "tests/support/puzzles.h"
 
 #include <map>
+#include <set>
 
 using document::Marker;
 using document::ReadPuzzle;
@@ -68,6 +69,7 @@ private slots:
         for (int byte = 0; byte < 256; ++byte)
             if (byte != '"')
                 all += document::DecodeCharacter(static_cast<char>(byte));
+        QCOMPARE(std::set(all.begin(), all.end()).size(), 255U);
         const auto whole = ReadPuzzle(WritePuzzle(all, Words{all}));
         QVERIFY(whole.title == all && whole.words == Words{all});
         QCOMPARE(document::DecodeCharacter('\x9F'), u'\u0178');
