@@ -61,6 +61,7 @@ void Script::Step(const QString& step)
         {"print", [&] { puzzleTool("Print"); }},
         {"back", [&] { puzzleTool("Back"); }},
         {"closepuzzle", [&] { ShownWindow("frmPuzzle")->close(); }},
+        {"taskbar", [&] { Window->showMinimized(), Window->showNormal(); }},
         {"closemain", [&] { Window->close(); }},
         {"yes", [&] { Answering.Expect(Press(QMessageBox::Yes)); }},
         {"no", [&] { Answering.Expect(Press(QMessageBox::No)); }},

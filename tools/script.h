@@ -20,6 +20,7 @@ namespace driving {
 ///     pick:N edit delete create               the list, from 0, and the buttons
 ///     tool:KEY menu:AB                        the toolbar; the menus by their access keys
 ///     print back closepuzzle closemain        the puzzle window, the close boxes
+///     taskbar                                 the main window minimised and brought back
 ///     yes no cancel ok escape file:NAME pdf:NAME end
 ///                                             answers, given before the step that brings up the question; "end" of
 ///                                             the desktop's session

@@ -95,11 +95,12 @@ protected:
     /// technology is told.
     static QStringList Looks(const QWidget& window)
     {
-        QStringList looks{QString("\"%1\" %2x%3 flags %4")
+        QStringList looks{QString("\"%1\" %2x%3 flags %4 focus %5")
                               .arg(window.windowTitle())
                               .arg(window.width())
                               .arg(window.height())
-                              .arg(window.windowFlags().toInt(), 0, 16)};
+                              .arg(window.windowFlags().toInt(), 0, 16)
+                              .arg(window.focusWidget()->metaObject()->className())};
         for (QWidget* control : window.findChildren<QWidget*>()) {
             static const QRegularExpression ours("^(lbl|txt|cmd|lst|pct|.*Toolbar|client)");
             const auto* button = qobject_cast<const QToolButton*>(control);
