@@ -108,6 +108,9 @@ private slots:
     void TakesEveryClickInTheTitle()
     {
         auto& title = Control<QLineEdit>("txtTitle");
+        QTest::mousePress(&title, Qt::LeftButton);
+        QTest::mouseRelease(&title, Qt::LeftButton, {}, QPoint(5, -5)); // beside it: no click
+        QCOMPARE(title.text(), "New Puzzle");
         QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), title.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&title, &menu);
         QCOMPARE(title.text(), QString());

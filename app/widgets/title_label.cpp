@@ -9,7 +9,7 @@ constexpr qsizetype LongestShown = 300; ///< characters; more has no room in any
 
 bool Fits(const QFont& font, const QRect& room, int flags, const QString& text)
 {
-    const QRect needed = QFontMetrics(font).boundingRect(QRect(0, 0, room.width(), room.height() * 10), flags, text);
+    const QRect needed = QFontMetrics(font).boundingRect(room, flags, text);
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
