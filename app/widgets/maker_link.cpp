@@ -15,7 +15,6 @@ void LookLikeTheMaker(QLabel& label, const QFont& font)
     label.setFont(font);
     label.setPalette(looks::OnWhite(looks::MakerRed));
     label.setAutoFillBackground(true);
-    label.setTextFormat(Qt::PlainText);
 }
 
 } // namespace
