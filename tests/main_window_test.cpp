@@ -50,12 +50,14 @@ private slots:
                 Answering.Expect(note);
             Run(QString(steps).remove('?'));
         }
-        QCOMPARE(asked,
-                 QStringList({"Open Glyphgrove Files (*.pux) ", "Ok|FirstButton OK",
-                              "Open Glyphgrove Files (*.pux) beside it: good.pux",
-                              "Save As Glyphgrove Files (*.pux)|All File (*.*) beside it: Pets",
-                              "Open Glyphgrove Files (*.pux) beside it: Pets", "Open Glyphgrove Files (*.pux) ",
-                              "Yes|No Yes", "Yes|No|Cancel Yes", "PrintToFile|PrintShowPageSize New Puzzle.pdf"}));
+        const QString print = asked.takeLast(); // a desktop may have no dialog that prints to files
+        QVERIFY(print == "PrintToFile|PrintShowPageSize New Puzzle.pdf" ||
+                print == "Save As PDF Files (*.pdf) New Puzzle.pdf");
+        QCOMPARE(asked, QStringList({"Open Glyphgrove Files (*.pux) ", "Ok|FirstButton OK",
+                                     "Open Glyphgrove Files (*.pux) beside it: good.pux",
+                                     "Save As Glyphgrove Files (*.pux)|All File (*.*) beside it: Pets",
+                                     "Open Glyphgrove Files (*.pux) beside it: Pets",
+                                     "Open Glyphgrove Files (*.pux) ", "Yes|No Yes", "Yes|No|Cancel Yes"}));
     }
 
     void ListsInFourColumnsOfTen()

@@ -153,6 +153,9 @@ private slots:
     void initTestCase()
     {
         PrepareApplication();
+        QApplication::setStyle("Fusion"); // the same places on every desktop, and fonts of the same measures
+        QFont::insertSubstitution("Times New Roman", "Liberation Serif");
+        QFont::insertSubstitution("Courier New", "Liberation Mono");
         QApplication::setQuitOnLastWindowClosed(false); // the next window follows
     }
 
@@ -162,6 +165,7 @@ private slots:
         Folder = QDir(Disk->path());
         for (const QFileInfo& file : QFileInfo(QFINDTESTDATA("../data/good.pux")).dir().entryInfoList({"*.pux"}))
             QFile::copy(file.filePath(), Folder.filePath(file.fileName()));
+        QApplication::setFont(QFont("Liberation Sans", 9));
         Answering.Shown();
         Start(FixedRandom(1));
     }
