@@ -35,9 +35,13 @@ void Script::Step(const QString& step)
 {
     const QString about = step.section(':', 1).replace('_', ' ');
     const auto key = [this](const char* box, Qt::Key pressed) { QTest::keyClick(&Control<QLineEdit>(box), pressed); };
-    const auto puzzleTool = [](const char* name) {
-        ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", name).click();
+    const auto puzzle = [] {
+        QWidget* shown = ShownWindow("frmPuzzle");
+        if (shown == nullptr)
+            qFatal("no puzzle is shown");
+        return shown;
     };
+    const auto puzzleTool = [&](const char* name) { ToolButton(*puzzle(), "PuzzleToolbar", name).click(); };
     const std::map<QString, std::function<void()>> steps{
         {"type", [&] { Type("txtNewWords", about); }},
         {"enter", [&] { key("txtNewWords", Qt::Key_Return); }},
@@ -60,7 +64,7 @@ void Script::Step(const QString& step)
         {"menu", [&] { ChooseFromMenu(about.at(0).toLatin1(), about.at(1).toLatin1()); }},
         {"print", [&] { puzzleTool("Print"); }},
         {"back", [&] { puzzleTool("Back"); }},
-        {"closepuzzle", [&] { ShownWindow("frmPuzzle")->close(); }},
+        {"closepuzzle", [&] { puzzle()->close(); }},
         {"taskbar", [&] { Window->showMinimized(), Window->showNormal(); }},
         {"closemain", [&] { Window->close(); }},
         {"yes", [&] { Answering.Expect(Press(QMessageBox::Yes)); }},
