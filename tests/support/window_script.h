@@ -137,10 +137,11 @@ protected:
     /// is.
     QString Boxes()
     {
+        static const QList<QStringList> names = Rows("boxes.json");
         QStringList shown;
         for (const QString& text : Answering.Shown()) {
             shown += text;
-            for (const QStringList& row : Rows("boxes.json"))
+            for (const QStringList& row : names)
                 if (text == row[1] || (row[1].startsWith('*') && text.contains(row[1].mid(1))))
                     shown.last() = row[0];
         }
