@@ -50,7 +50,8 @@ bool Save(const QString& path, const std::string& bytes)
         return false;
     const QByteArray contents = QByteArray::fromStdString(bytes);
     QSaveFile file(target);
-    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.commit())
+    // Asked for outright: the flush within commit() may fail unnoticed, and then puts an empty file in place.
+    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
         return true;
     const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
     return refused && there.exists() && WriteInPlace(target, contents);
