@@ -108,7 +108,7 @@ void frmMain::BuildTitle()
     lblBigTitle->setAlignment(Qt::AlignCenter);
     Place(*lblBigTitle, 120, 420, ClientWidth - 240, 735);
 
-    txtTitle = new EntryBox({document::FilterTitle, wordlist::MaxTitleLength}, Client);
+    txtTitle = new EntryBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
     txtTitle->setObjectName(QStringLiteral("txtTitle"));
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(tr("New Puzzle"));

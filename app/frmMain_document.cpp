@@ -33,7 +33,7 @@ void frmMain::ResetAll(bool forNew)
 {
     ClearTextbox();
     txtTitle->setText(tr("New Puzzle"));
-    lstWordlist->Clear();
+    lstWordlist->clear();
     EditIndex = -1; // an edit under way was of a word that is gone
     WordCounter();
     looks::SetCaption(*this, tr("Glyphgrove-New Puzzle"));

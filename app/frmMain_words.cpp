@@ -67,9 +67,7 @@ void frmMain::ConfirmEdit()
             cmdCreatePuzzle->setEnabled(true); // whether or not it came to adding
         return;
     }
-    const QString word = txtNewWords->text();
-    lstWordlist->Remove(EditIndex);
-    lstWordlist->Insert(EditIndex, word);
+    lstWordlist->Replace(EditIndex, txtNewWords->text());
     ClearTextbox();
     Saved = false;
     ShowEditButtons(false);

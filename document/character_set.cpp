@@ -1,5 +1,7 @@
 #include "document/character_set.h"
 
+#include <string_view>
+
 namespace document {
 
 namespace {
@@ -35,13 +37,9 @@ std::optional<char> EncodeCharacter(char16_t character)
     return latin1 ? std::optional(static_cast<char>(character)) : std::nullopt;
 }
 
-std::u16string FilterTitle(std::u16string_view inserted, bool /*atFront*/)
+bool TakesInTitle(char16_t character, bool /*boxIsEmpty*/)
 {
-    std::u16string title;
-    for (const char16_t character : inserted)
-        if (!IsControl(character) && EncodeCharacter(character))
-            title += character;
-    return title;
+    return !IsControl(character) && EncodeCharacter(character);
 }
 
 } // namespace document

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace document {
 
@@ -14,7 +12,7 @@ char16_t DecodeCharacter(char byte);
 /// The byte of `character`, or nothing when the character set lacks it.
 std::optional<char> EncodeCharacter(char16_t character);
 
-/// The title box: printable characters that a puzzle file can hold; everything else is dropped without a word.
-std::u16string FilterTitle(std::u16string_view inserted, bool atFront);
+/// The title box: printable characters that a puzzle file can hold.
+bool TakesInTitle(char16_t character, bool boxIsEmpty);
 
 } // namespace document

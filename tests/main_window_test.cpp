@@ -1,6 +1,7 @@
 #include "tests/support/window_script.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QInputMethodEvent>
 #include <QPrintDialog>
@@ -34,11 +35,15 @@ private slots:
         const auto note = [&](QDialog& dialog) {
             if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
                 asked += keys(box->standardButtons()) + ' ' + box->defaultButton()->text().remove('&');
-            else if (const auto* files = qobject_cast<const QFileDialog*>(&dialog))
-                asked += files->windowTitle() + ' ' + files->nameFilters().join('|') + ' ' +
+            else if (const auto* files = qobject_cast<const QFileDialog*>(&dialog)) {
+                QStringList kinds;
+                const auto& shown = Find<QComboBox>(dialog, "fileTypeCombo");
+                for (int i = 0; i < shown.count(); ++i)
+                    kinds += shown.itemText(i);
+                asked += files->windowTitle() + ' ' + kinds.join('|') + ' ' +
                          (files->directory() == Folder ? "beside it: " : "") +
                          Find<QLineEdit>(dialog, "fileNameEdit").text();
-            else if (const auto* print = qobject_cast<const QPrintDialog*>(&dialog))
+            } else if (const auto* print = qobject_cast<const QPrintDialog*>(&dialog))
                 asked +=
                     keys(print->options()) + ' ' + QFileInfo(Find<QLineEdit>(dialog, "filename").text()).fileName();
             dialog.reject();
@@ -70,40 +75,55 @@ private slots:
         QCOMPARE(list.item(3)->toolTip(), "<span>" + list.item(3)->text() + "</span>");
     }
 
-    /// The left button and the keyboard choose, an entry that is selected already too; other buttons do nothing.
+    /// A click chooses and a key, without Ctrl, too: the entry where it ends, be it the selected one. Steps from ant:
+    /// the selected entry, the one looked at, the number of choices, after each key or click.
     void ChoosesEntries()
     {
         Run("word:ant word:cat word:dog");
         auto& list = Control<WordList>("lstWordlist");
         int chosen = 0;
         connect(&list, &WordList::Chosen, &list, [&chosen] { ++chosen; });
-        for (const auto& [key, row] :
-             {std::pair(Qt::Key_Home, 0), {Qt::Key_End, 2}, {Qt::Key_Down, 1}, {Qt::Key_Up, 1}}) {
-            list.setCurrentRow(row, QItemSelectionModel::Clear); // only looked at
-            QTest::keyClick(&list, key);
-            QCOMPARE(list.SelectedPosition(), row);
-        }
-        QCOMPARE(std::exchange(chosen, 0), 4);
-        list.setCurrentRow(0, QItemSelectionModel::Clear);
-        QApplication::setKeyboardInputInterval(10);
-        const std::vector<std::pair<QKeyCombination, std::pair<int, int>>> keys{
-            {Qt::Key_Space, {0, 1}}, {Qt::Key_A, {0, 2}},
-            {Qt::Key_Z, {0, 2}},     {Qt::Key_Down, {1, 3}},
-            {Qt::Key_End, {2, 4}},   {Qt::Key_Home, {0, 5}},
-            {Qt::Key_D, {2, 6}},     {Qt::CTRL | Qt::Key_Up, {2, 6}}, // only looks around
-            {Qt::Key_Space, {1, 7}},
+        const auto state = [&] {
+            return QString::asprintf("%d %d %d", list.SelectedPosition(), list.currentRow(), chosen);
         };
-        for (const auto& [key, expected] : keys) {
+        list.setCurrentRow(0, QItemSelectionModel::Clear);
+        using Row = std::pair<QKeyCombination, QString>;
+        for (const auto& [key, after] : {
+                 Row{Qt::CTRL | Qt::Key_Down, "-1 1 0"},
+                 {Qt::CTRL | Qt::Key_End, "-1 2 0"},
+                 {Qt::Key_End, "2 2 1"},
+                 {Qt::CTRL | Qt::Key_Up, "2 1 1"},
+                 {Qt::Key_Down, "2 2 2"},
+                 {Qt::Key_Home, "0 0 3"},
+                 {Qt::Key_Up, "0 0 4"},
+                 {Qt::Key_D, "2 2 5"},
+                 {Qt::Key_D, "2 2 6"},
+                 {Qt::Key_Z, "2 2 6"},
+                 {Qt::CTRL | Qt::Key_Home, "2 0 6"},
+                 {Qt::Key_Space, "0 0 7"},
+                 {Qt::CTRL | Qt::Key_Down, "0 1 7"},
+                 {Qt::CTRL | Qt::Key_Space, "1 1 8"},
+             }) {
             QTest::keyClick(&list, key.key(), key.keyboardModifiers());
-            QCOMPARE(std::pair(list.SelectedPosition(), chosen), expected);
-            QTest::qWait(20); // a new search
+            QCOMPARE(state(), after);
         }
-        for (const auto button : {Qt::RightButton, Qt::MiddleButton, Qt::LeftButton}) {
-            QCOMPARE(std::pair(list.SelectedPosition(), chosen), std::pair(1, 7));
-            QTest::mouseClick(list.viewport(), button, Qt::ControlModifier,
-                              list.visualItemRect(list.item(2)).center());
+        const QPoint last = list.visualItemRect(list.item(2)).center();
+        for (const auto& [button, after] : {std::pair(Qt::RightButton, "1 1 8"), {Qt::LeftButton, "2 2 9"}}) {
+            QTest::mouseClick(list.viewport(), button, Qt::ControlModifier, last);
+            QCOMPARE(state(), after);
         }
-        QCOMPARE(std::pair(list.SelectedPosition(), chosen), std::pair(2, 8));
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, last); // the second of two clicks
+        QCOMPARE(state(), "2 2 10");
+        QCOMPARE(Activate()->objectName(), "txtNewWords");
+        Run("delete"); // the next entry, or the last, is looked at
+        QCOMPARE(state(), "-1 1 10");
+        list.setCurrentRow(0);
+        Step("edit");
+        list.setCurrentRow(1);
+        Run("wipe word:owl"); // confirming an edit leaves another entry selected
+        QCOMPARE(state(), "1 1 12");
+        Run("word:_x"); // a space is no letter to look for
+        QCOMPARE(list.item(0)->text(), "owl");
     }
 
     /// A click of any button counts in the title box, before it pastes.
@@ -128,38 +148,51 @@ private slots:
         QCOMPARE(Boxes(), "save?");
     }
 
-    /// What is typed, composed, dropped or pasted into the boxes; what undo brings back.
+    /// What is typed, composed or pasted into the boxes; what undo brings back.
     void FiltersWhatIsEntered()
     {
         auto& word = Control<QLineEdit>("txtNewWords");
         auto& title = Control<QLineEdit>("txtTitle");
+        const auto paste = [](QLineEdit& box, const QString& text) {
+            QApplication::clipboard()->setText(text);
+            box.paste();
+            return box.text();
+        };
         QTest::keyClicks(&word, " a1b-c' d");
         QCOMPARE(word.text(), "abc d");
         QInputMethodEvent composed;
         composed.setCommitString("\u00E9e\u0301\u4E2Df7");
         QApplication::sendEvent(&word, &composed);
         QCOMPARE(word.text(), "abc def");
-        QApplication::clipboard()->setText(" 3 pigs, abcdefghijklmnopqrstuv");
-        QTest::keyClick(&word, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(word.text(), "abc def");
-        word.paste();
-        QTRY_COMPARE(word.text(), "abc def  pigs abcdef");
-        QTest::keyClicks(&word, "x");
-        QCOMPARE(word.text(), "abc def  pigs abcdef");
+        composed.setCommitString("x1", -2, 1); // in the place of a letter
+        QApplication::sendEvent(&word, &composed);
+        QCOMPARE(word.text(), "abc dxf");
+        QTest::keyClick(&word, Qt::Key_V, Qt::ControlModifier); // no character for a word
+        word.end(false);
+        QCOMPARE(paste(word, " pig"), "abc dxf pig");
         word.undo(); // the paste alone
-        QCOMPARE(word.text(), "abc def");
+        QCOMPARE(word.text(), "abc dxf");
         word.setSelection(4, 3);
         QTest::keyClicks(&word, "1-");
         QVERIFY(word.isRedoAvailable());
-        QApplication::clipboard()->setText("123");
-        word.paste();
-        QCoreApplication::processEvents();
-        QCOMPARE(word.text() + word.selectedText(), "abc defdef");
-        title.setFocus();
-        title.selectAll();
-        QApplication::clipboard()->setText("Caf\u00E9 \u20AC\u4E2D \u201CA\u201D\nB, far longer than thirty");
-        QTest::keyClick(&title, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(title.text(), "Caf\u00E9 \u20AC \u201CA\u201D B, far longer than ");
+        QCOMPARE(paste(word, "123") + word.selectedText(), "abc dxfdxf");
+        word.setText("cat");
+        word.selectAll();
+        QCOMPARE(paste(word, " t"), " t"); // the box is not empty when the space comes
+        word.setText("at");
+        word.home(false);
+        QCOMPARE(paste(word, "abcdefghijklmnopqrstuvwxyz"), "abcdefghijklmnopqrat");
+        word.clear();
+        QTest::keyClicks(&word, "a CAT");
+        word.home(false);
+        QTest::keyClick(&word, Qt::Key_Delete);
+        word.undo();
+        word.redo();
+        word.end(false);
+        QCOMPARE(paste(word, "1x2"), " CATx");
+        QTest::keyClick(&title, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(paste(title, "Caf\u00E9 \u20AC\u4E2D \u201CA\u201D\nB, far longer than thirty"),
+                 "Caf\u00E9 \u20AC \u201CA\u201D B, far longer than ");
         title.setText("A title of over thirty characters"); // as a file brings it
         QTest::keyClick(&title, Qt::Key_Backspace);
         QTest::keyClicks(&title, "x");

@@ -1,9 +1,10 @@
-#include "tests/support/data.h"
 #include "tests/support/puzzles.h"
 #include "wordlist/entry.h"
 #include "wordlist/letters.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
+
+#include <QtTest>
 
 #include <algorithm>
 
@@ -11,18 +12,25 @@ class WordListTest : public QObject {
     Q_OBJECT
 
 private slots:
-    /// What it is about, how it comes, from which text to which one, what becomes of it.
-    void AdmitsEdits()
+    void AdmitsWhatTypingItWouldGive()
     {
-        for (const QStringList& row : Rows("edits.json")) {
-            auto text = row[2].toStdU16String();
-            const wordlist::Edit edit{row[3].toStdU16String(), row[1] == "typed"};
-            const auto change = wordlist::AdmitEdit(text, edit, {wordlist::FilterWord, 20});
-            if (change)
-                text.replace(change->position, change->removed, change->inserted);
-            const QString admitted = change ? QString::fromStdU16String(text) : "discarded";
-            QCOMPARE((row.first(4) << admitted).join(" > "), row.join(" > "));
-        }
+        struct Row {
+            std::u16string text;
+            std::size_t shown, selected;
+            std::u16string admitted;
+        };
+        for (const auto& [text, shown, selected, admitted] : {
+                 Row{u"@AZ[`az{1-\u00C9", 0, 0, u"AZaz"},
+                 {u"  3 ice-creams! ", 0, 0, u"icecreams "},
+                 {u" t", 3, 3, u" t"}, // the box shows what is selected until the space has come
+                 {u"CAT\nDOG\tFOX\u2028", 0, 0, u"CAT DOG FOX "},
+                 {u"KLMNOPQRSTUV", 12, 2, u"KLMNOPQRST"},
+                 {u"x", 20, 0, u""},
+                 {u"x", 20, 1, u"x"},
+                 {u"x", 25, 3, u""}, // longer than the limit, from a file
+                 {u"123", 0, 0, u""},
+             })
+            QCOMPARE(wordlist::Admit(text, shown, selected, {wordlist::TakesInWord, 20}), admitted);
     }
 
     void InsertsInAlphabeticalOrder()

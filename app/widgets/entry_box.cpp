@@ -9,74 +9,90 @@
 #include <QMouseEvent>
 #include <QValidator>
 
-#include <utility>
+#include <algorithm>
 
-/// Sits where a line edit asks whether its new text will do, which every way of entering text goes through.
+/// Every way of entering text passes the line edit's validator, so the rule is applied here.
 class EntryValidator : public QValidator {
 public:
-    explicit EntryValidator(EntryBox* box) : QValidator(box), Box(*box) {}
+    EntryValidator(EntryBox& box, const wordlist::EntryRule& rule) : QValidator(&box), Box(box), Rule(rule) {}
 
-    /// Refused, an edit is taken back by the line edit, which keeps its selection and its history.
-    State validate(QString& text, int& /*cursor*/) const override { return Box.Admits(text) ? Acceptable : Invalid; }
+    State validate(QString& text, int& cursor) const override;
+
+    QString Admitted(const QString& text) const
+    {
+        return QString::fromStdU16String(Admit(text.toStdU16String(), static_cast<std::size_t>(Before.size()),
+                                               static_cast<std::size_t>(Replaced), Rule));
+    }
+
+    /// Takes the box as it stands, for the next edit, and what that would replace.
+    void Remember(qsizetype start, qsizetype replaced)
+    {
+        Before = Box.text();
+        Start = std::clamp<qsizetype>(start, 0, Before.size());
+        Replaced = std::min(replaced, Before.size() - Start);
+    }
 
 private:
     EntryBox& Box;
+    wordlist::EntryRule Rule;
+    QString Before;         ///< the text as the last edit left it;
+    qsizetype Start = 0;    ///< an insertion takes the place
+    qsizetype Replaced = 0; ///< of so many characters
 };
 
-EntryBox::EntryBox(const wordlist::EntryRule& rule, QWidget* parent) : QLineEdit(parent), Rule(rule)
-{
-    setMaxLength(static_cast<int>(document::MaxFileBytes)); // whatever a file brings; the rule bounds the user
-    setValidator(new EntryValidator(this));
-    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { Before = text; });
-    // The menu's Paste comes when no event of the box is under way.
-    connect(this, &QLineEdit::inputRejected, this, &EntryBox::MakePendingChange, Qt::QueuedConnection);
-}
-
-bool EntryBox::Admits(const QString& wanted)
+/// Invalid takes the whole edit back; a text that is changed here becomes the box's, without a history.
+QValidator::State EntryValidator::validate(QString& text, int& cursor) const
 {
     // Setting a text leaves nothing to undo, an edit always does; only undo leaves something to redo.
-    const bool edited = isUndoAvailable() && !isRedoAvailable();
-    if (!edited || wanted == Before)
-        return true;
-    Pending = wordlist::AdmitEdit(Before.toStdU16String(), {wanted.toStdU16String(), Typing}, Rule);
-    if (!Pending)
-        return false;
-    QString admitted = Before;
-    admitted.replace(static_cast<qsizetype>(Pending->position), static_cast<qsizetype>(Pending->removed),
-                     QString::fromStdU16String(Pending->inserted));
-    if (admitted == wanted)
-        Pending.reset();
-    return !Pending;
+    const bool edited = Box.isUndoAvailable() && !Box.isRedoAvailable();
+    const qsizetype length = text.size() - Before.size() + Replaced;
+    if (!edited || length <= 0 || !text.startsWith(Before.left(Start)) ||
+        !text.endsWith(Before.mid(Start + Replaced)))
+        return Acceptable;
+    const QString inserted = text.mid(Start, length);
+    const QString admitted = Admitted(inserted);
+    if (admitted.isEmpty())
+        return Invalid;
+    if (admitted != inserted) {
+        text.replace(Start, length, admitted);
+        cursor = static_cast<int>(Start + admitted.size());
+    }
+    return Acceptable;
 }
 
-/// Makes what remains of an edit that was taken back, as an edit of its own.
-void EntryBox::MakePendingChange()
+EntryBox::EntryBox(const wordlist::EntryRule& rule, QWidget* parent)
+    : QLineEdit(parent), Validator(new EntryValidator(*this, rule))
 {
-    if (!Pending)
-        return;
-    const wordlist::Change change = *std::exchange(Pending, std::nullopt);
-    home(false); // moving about keeps this edit and the one before apart, for undo
-    setSelection(static_cast<int>(change.position), static_cast<int>(change.removed));
-    insert(QString::fromStdU16String(change.inserted));
-}
-
-bool EntryBox::event(QEvent* event)
-{
-    const bool handled = QLineEdit::event(event);
-    MakePendingChange();
-    return handled;
+    setMaxLength(static_cast<int>(document::MaxFileBytes)); // whatever a file brings; the rule bounds the user
+    setValidator(Validator);
+    const auto remember = [this] {
+        Validator->Remember(hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
+    };
+    connect(this, &QLineEdit::textChanged, this, remember);
+    connect(this, &QLineEdit::selectionChanged, this, remember);
+    connect(this, &QLineEdit::cursorPositionChanged, this, remember);
 }
 
 /// A character that the rule discards does not even reach the line edit, which would forget what it could redo.
 void EntryBox::keyPressEvent(QKeyEvent* event)
 {
     const QString typed = event->text();
-    Typing = typed.size() == 1 && typed.at(0).isPrint();
-    if (Typing && Rule.filter(typed.toStdU16String(), text().isEmpty()).empty())
+    if (typed.size() == 1 && typed.at(0).isPrint() && Validator->Admitted(typed).isEmpty())
         event->accept();
     else
         QLineEdit::keyPressEvent(event);
-    Typing = false;
+}
+
+/// Composed text is told to the validator too late: the line edit reports its new place first.
+void EntryBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (event->replacementLength() > 0)
+        Validator->Remember(cursorPosition() + event->replacementStart(), event->replacementLength());
+    QInputMethodEvent admitted(event->preeditString(), event->attributes());
+    const QString text = Validator->Admitted(event->commitString());
+    if (!text.isEmpty() || event->commitString().isEmpty())
+        admitted.setCommitString(text, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&admitted);
 }
 
 void EntryBox::mouseReleaseEvent(QMouseEvent* event)
@@ -95,7 +111,7 @@ void EntryBox::contextMenuEvent(QContextMenuEvent* event)
 }
 
 WordBox::WordBox(QWidget* parent)
-    : EntryBox({wordlist::FilterWord, static_cast<std::size_t>(wordlist::MaxWordLength)}, parent)
+    : EntryBox({wordlist::TakesInWord, static_cast<std::size_t>(wordlist::MaxWordLength)}, parent)
 {
 }
 

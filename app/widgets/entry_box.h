@@ -4,11 +4,11 @@
 
 #include <QLineEdit>
 
-#include <optional>
+class EntryValidator;
 
-/// A text box that takes only what its rule admits from the user, however it comes: typed, composed, pasted
-/// or dropped. What is discarded changes nothing, selection and undo included. What the program sets stands as it
-/// is, and so does what undo brings back.
+/// A text box that takes only what its rule admits from the user, typed, composed, pasted or dropped. What is
+/// discarded changes nothing, selection and undo included; a paste of which a part is discarded leaves nothing to
+/// undo. What the program sets stays as it is, and so does what undo brings back.
 class EntryBox : public QLineEdit {
     Q_OBJECT
 
@@ -19,20 +19,13 @@ signals:
     void Clicked(); ///< by any mouse button, before the click does what it does
 
 protected:
-    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    friend class EntryValidator;
-    bool Admits(const QString& wanted);
-    void MakePendingChange();
-
-    wordlist::EntryRule Rule;
-    QString Before;                          ///< the text as the last edit left it
-    bool Typing = false;                     ///< a character is on its way from the keyboard
-    std::optional<wordlist::Change> Pending; ///< what is left of an edit that was not admitted as it was
+    EntryValidator* Validator;
 };
 
 /// The box for words. It discards control-key combinations, the clipboard's among them, as it discards any

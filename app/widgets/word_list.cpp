@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int Columns = 4;
@@ -14,7 +16,6 @@ WordList::WordList(QWidget* parent) : QListWidget(parent)
 {
     setWrapping(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportMargins(1, 1, 1, 1); // at fractional scales the entries' ground would cover the border
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
@@ -35,30 +36,32 @@ void WordList::Insert(int position, const QString& word)
     entry->setToolTip(QStringLiteral("<span>%1</span>").arg(word.toHtmlEscaped()));
     entry->setSizeHint(gridSize());
     insertItem(position, entry);
-    // Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
-    if (count() > Columns * Rows)
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
 void WordList::Remove(int position)
 {
-    if (position == currentRow())
-        setCurrentItem(nullptr); // else the view selects a neighbour, also of an entry that was not selected
     delete takeItem(position);
-    if (count() <= Columns * Rows)
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void WordList::Clear()
+void WordList::Replace(int position, const QString& word)
 {
-    clear();
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int current = currentRow();
+    Remove(position);
+    Insert(position, word);
+    setCurrentRow(current, QItemSelectionModel::NoUpdate);
 }
 
 int WordList::SelectedPosition() const
 {
     const auto selected = selectionModel()->selectedIndexes();
     return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+/// Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
+void WordList::updateGeometries()
+{
+    setHorizontalScrollBarPolicy(count() > Columns * Rows ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    QListWidget::updateGeometries();
 }
 
 void WordList::resizeEvent(QResizeEvent* event)
@@ -72,54 +75,41 @@ void WordList::resizeEvent(QResizeEvent* event)
 
 void WordList::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
-        return; // the other buttons choose nothing, so they must not select either
-    MousePressing = true;
-    QListWidget::mousePressEvent(event);
-    MousePressing = false;
-    if (itemAt(event->position().toPoint()) != nullptr)
-        Choose();
+    if (event->button() == Qt::LeftButton)
+        Choose(row(itemAt(event->position().toPoint())));
 }
 
-/// With nothing selected the first arrow key selects the entry that has the focus rather than the one after
-/// it, and so do Home and End where they find nowhere to go. A key that leads to the entry that is selected already
-/// chooses it again, as a click does.
 void WordList::keyPressEvent(QKeyEvent* event)
 {
-    const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
-    const bool stays = (event->key() == Qt::Key_Home && currentRow() == 0) ||
-                       (event->key() == Qt::Key_End && currentRow() == count() - 1);
-    const int selected = SelectedPosition();
-    if ((arrow || stays) && selected < 0 && currentItem() != nullptr)
-        currentItem()->setSelected(true);
-    else
+    const bool space = event->key() == Qt::Key_Space;
+    const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown; // arrows among them
+    if (!space)
         QListWidget::keyPressEvent(event);
-    const bool leadsThere =
-        event->key() == Qt::Key_Space || (!event->text().isEmpty() && selected >= 0 &&
-                                          item(selected)->text().startsWith(event->text(), Qt::CaseInsensitive));
-    if (selected >= 0 && selected == SelectedPosition() && leadsThere)
-        Choose();
+    if (space || (moves && !event->modifiers().testFlag(Qt::ControlModifier)))
+        Choose(currentRow());
+}
+
+/// A letter leads to the next entry that begins with it.
+void WordList::keyboardSearch(const QString& search)
+{
+    const QModelIndex next = model()->index((currentRow() + 1) % std::max(count(), 1), 0);
+    const auto found = model()->match(next, Qt::DisplayRole, search, 1, Qt::MatchStartsWith | Qt::MatchWrap);
+    Choose(found.isEmpty() ? -1 : found.first().row());
 }
 
 void WordList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QListWidget::selectionChanged(selected, deselected);
-    if (!MousePressing && !selected.isEmpty())
-        Choose();
-}
-
-/// Ctrl and an arrow key only look around; the blank key then selects.
-QItemSelectionModel::SelectionFlags WordList::selectionCommand(const QModelIndex& index, const QEvent* event) const
-{
-    const bool looksAround = event != nullptr && event->type() == QEvent::KeyPress &&
-                             static_cast<const QKeyEvent*>(event)->modifiers().testFlag(Qt::ControlModifier);
-    if (looksAround)
-        return QItemSelectionModel::NoUpdate;
-    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
-}
-
-void WordList::Choose()
-{
-    if (SelectedPosition() >= 0)
+    if (!selected.isEmpty())
         emit Chosen(SelectedPosition());
+}
+
+void WordList::Choose(int position)
+{
+    const bool again = position == SelectedPosition();
+    if (position < 0)
+        return;
+    setCurrentRow(position, QItemSelectionModel::ClearAndSelect);
+    if (again)
+        emit Chosen(position);
 }
