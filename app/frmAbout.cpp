@@ -2,8 +2,10 @@
 
 #include "app/looks.h"
 #include "app/program.h"
+#include "app/widgets/focus_ring.h"
 #include "app/widgets/maker_link.h"
 
+#include <QApplication>
 #include <QPushButton>
 
 frmAbout::frmAbout(QWidget* owner) : QDialog(owner), Scale(looks::ScaleForFont(*this))
@@ -17,6 +19,8 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner), Scale(looks::ScaleForFont(*
     BuildMaker();
     BuildTexts();
     BuildButton();
+    looks::OutlineControls(*this);
+    new FocusRing(this);
 }
 
 void frmAbout::BuildMaker()
@@ -54,6 +58,11 @@ void frmAbout::BuildButton()
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
     cmdOK->setFocus();
+    // With the focus on the link, Return opens the page.
+    connect(qApp, &QApplication::focusChanged, cmdOK, [this, cmdOK](const QWidget* /*old*/, const QWidget* now) {
+        if (isAncestorOf(now))
+            cmdOK->setDefault(now == cmdOK);
+    });
     looks::Place(*cmdOK, 4395, 1665, 1200, 390, Scale);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }

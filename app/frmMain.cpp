@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/accessible.h"
+#include "app/dialogs.h"
 #include "app/frmAbout.h"
 #include "app/looks.h"
 #include "app/message_boxes.h"
@@ -11,6 +12,7 @@
 #include "wordlist/limits.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 
@@ -60,10 +62,10 @@ void frmMain::BuildMenus()
     mnuFile->setObjectName(QStringLiteral("mnuFile"));
     AddCommand(mnuFile, "mnuOpen", tr("&Open"), QKeySequence::Open, &frmMain::mnuOpen_Click);
     mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), QKeySequence::Save, &frmMain::mnuSave_Click);
-    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), QKeySequence::SaveAs, &frmMain::mnuSaveAs_Click,
-                           Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                           &frmMain::mnuSaveAs_Click);
     AddCommand(mnuFile, "mnuNewPuzzle", tr("&New Puzzle"), QKeySequence::New, &frmMain::mnuNewPuzzle_Click);
-    AddCommand(mnuFile, "mnuExit", tr("&Quit"), QKeySequence::Quit, &frmMain::mnuExit_Click, Qt::CTRL | Qt::Key_Q);
+    AddCommand(mnuFile, "mnuExit", tr("&Quit"), Qt::CTRL | Qt::Key_Q, &frmMain::mnuExit_Click);
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     QMenu* mnuHelp = menuBar()->addMenu(tr("&Help"));
@@ -71,32 +73,28 @@ void frmMain::BuildMenus()
     AddCommand(mnuHelp, "mnuAbout", tr("&About"), QKeySequence::HelpContents, &frmMain::mnuAbout_Click);
 }
 
-/// `elsewhere`: the keys on desktops that have none for it.
-QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
-                             void (frmMain::*command)(), const QKeySequence& elsewhere)
+QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
+                             void (frmMain::*command)())
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
-    action->setShortcuts(keys);
-    if (action->shortcuts().isEmpty())
-        action->setShortcut(elsewhere);
-    // Queued: who asks for the command by other means than a click need not wait for the dialogs that it opens.
-    connect(action, &QAction::triggered, this, command, Qt::QueuedConnection);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, [this, command] {
+        if (CommandsMayStart())
+            (this->*command)();
+    });
     return action;
 }
 
 void frmMain::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar(QStringLiteral("Toolbar1"), tr("Puzzle and words"),
-                                    {{"New", "new", QT_TR_NOOP("Start New Puzzle"), QKeySequence::New},
-                                     {"Open", "open", QT_TR_NOOP("Open Saved Puzzle"), QKeySequence::Open},
-                                     {"Save", "save", QT_TR_NOOP("Save Puzzle"), QKeySequence::Save},
-                                     {"Delete", "delete", QT_TR_NOOP("Delete Word")}},
-                                    Client);
+    QToolBar* toolbar = MakeToolbar("Toolbar1", tr("Puzzle and words"),
+                                    {{"New", tr("Start New Puzzle")},
+                                     {"Open", tr("Open Saved Puzzle")},
+                                     {"Save", tr("Save Puzzle")},
+                                     {"Delete", tr("Delete Word")}},
+                                    *Client, [this](int index) { Toolbar1_ButtonClick(index); });
     Place(*toolbar, 0, 0, ClientWidth, 360);
-    connect(
-        toolbar, &QToolBar::actionTriggered, this,
-        [this](const QAction* action) { Toolbar1_ButtonClick(ToolbarIndex(*action)); }, Qt::QueuedConnection);
 }
 
 void frmMain::BuildTitle()
@@ -157,13 +155,16 @@ void frmMain::BuildWordList()
     heading->setAlignment(Qt::AlignCenter);
     Place(*heading, 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
 
+    // Side by side, up to the list's right edge.
+    auto* counter = new QWidget(Client);
+    Place(*counter, 6900, BottomRow, ClientWidth - Margin - 6900, RowHeight);
     lblWordCount = AddLabel("lblWordCount", QString());
-    lblWordCount->setFont(heading->font());
-    Place(*lblWordCount, 9240, BottomRow, 690, RowHeight);
-    QLabel* countLabel = AddLabel("lblWordCountLabel", tr("Word Count:"), lblWordCount);
-    countLabel->setFont(heading->font());
-    countLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    Place(*countLabel, 6900, BottomRow, 2250, RowHeight);
+    auto* row = new QHBoxLayout(counter);
+    row->setContentsMargins({});
+    row->addStretch();
+    row->addWidget(AddLabel("lblWordCountLabel", tr("Word Count:"), lblWordCount));
+    row->addWidget(lblWordCount);
+    counter->setFont(heading->font());
     WordCounter();
 }
 

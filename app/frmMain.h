@@ -36,8 +36,8 @@ protected:
 private:
     // Controls, start-up, becoming active, toolbar, maker link (frmMain.cpp).
     void BuildMenus();
-    QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, QKeySequence::StandardKey keys,
-                        void (frmMain::*command)(), const QKeySequence& elsewhere = {});
+    QAction* AddCommand(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
+                        void (frmMain::*command)());
     void BuildToolbar();
     void BuildTitle();
     void BuildWordEntry();

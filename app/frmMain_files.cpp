@@ -9,8 +9,8 @@
 
 namespace {
 
-const QString PuzzleFilter = QStringLiteral("Glyphgrove Files (*.pux)");
-const QString AllFilter = QStringLiteral("All File (*.*)");
+const PuzzleFileDialog::Filter PuzzleFiles{QStringLiteral("Glyphgrove Files (*.pux)"), QStringLiteral("*.pux")};
+const PuzzleFileDialog::Filter AllFiles{QStringLiteral("All File (*.*)"), QStringLiteral("*")};
 
 } // namespace
 
@@ -19,7 +19,7 @@ void frmMain::mnuOpen_Click()
     if (CheckForSave())
         return;
     const QString fileName =
-        PuzzleFileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFilter}, DocumentFolder(), RememberedName, this);
+        PuzzleFileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFiles}, DocumentFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;
@@ -40,7 +40,7 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    const QString fileName = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFilter, AllFilter},
+    const QString fileName = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles},
                                                    DocumentFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;

@@ -30,7 +30,7 @@ void frmMain::cmdCreatePuzzle_Click()
 
 void frmMain::FillPuzzleWindow()
 {
-    Puzzle = std::make_unique<frmPuzzle>();
+    Puzzle = std::make_unique<frmPuzzle>(screen());
     connect(Puzzle.get(), &frmPuzzle::PrintRequested, this, &frmMain::Print_Puzzle);
     connect(Puzzle.get(), &frmPuzzle::Unloaded, this, &frmMain::ComeBack);
     for (int i = 0; i < lstWordlist->count(); ++i)

@@ -16,8 +16,8 @@ constexpr int WordsPerColumn = 20;
 
 } // namespace
 
-frmPuzzle::frmPuzzle()
-    : pctPuzzle(new PuzzleSurface(Client)), lblBigTitle(new TitleLabel(Client)), lblWords(),
+frmPuzzle::frmPuzzle(QScreen* screen)
+    : ClientWindow(screen), pctPuzzle(new PuzzleSurface(Client)), lblBigTitle(new TitleLabel(Client)), lblWords(),
       cmdPrint(new QPushButton(tr("Print Puzzle"), Client))
 {
     setObjectName(QStringLiteral("frmPuzzle"));
@@ -61,14 +61,10 @@ void frmPuzzle::BuildWordLabels()
 /// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
 void frmPuzzle::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar(QStringLiteral("PuzzleToolbar"), tr("Puzzle"),
-                                    {{"Print", "print", QT_TR_NOOP("Print Puzzle"), QKeySequence::Print},
-                                     {"Back", "back", QT_TR_NOOP("Go Back"), QKeySequence::Cancel}},
-                                    Client);
+    QToolBar* toolbar = MakeToolbar("PuzzleToolbar", tr("Puzzle"),
+                                    {{"Print", tr("Print Puzzle")}, {"Back", tr("Go Back")}}, *Client,
+                                    [this](int index) { PuzzleToolbar_ButtonClick(index); });
     looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
-    connect(
-        toolbar, &QToolBar::actionTriggered, this,
-        [this](const QAction* action) { PuzzleToolbar_ButtonClick(ToolbarIndex(*action)); }, Qt::QueuedConnection);
     toolbar->actions().first()->setShortcuts(QKeySequence::Print);
     toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) << Qt::Key_Escape);
     toolbar->widgetForAction(toolbar->actions().first())->setFocus();
@@ -114,7 +110,9 @@ void frmPuzzle::cmdPrint_Click()
     emit PrintRequested();
 }
 
+/// A window that was told to close twice, as a busy program may be, closes once.
 void frmPuzzle::closeEvent(QCloseEvent* /*event*/)
 {
-    emit Unloaded();
+    if (isVisible())
+        emit Unloaded();
 }

@@ -17,7 +17,7 @@ class frmPuzzle : public ClientWindow {
 public:
     static constexpr int SurfaceWidth = 7815; ///< twips; the surface is square
 
-    frmPuzzle();
+    explicit frmPuzzle(QScreen* screen);
 
     void SetTitle(const QString& title);
     /// Fills word label `index`, 0..39.

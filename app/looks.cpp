@@ -59,7 +59,20 @@ QPalette LightYellow()
 {
     QPalette palette(QColor(236, 236, 228), QColor(255, 255, 192));
     palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, Focus);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
+}
+
+void OutlineControls(const QWidget& window)
+{
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        QPalette palette = control->palette();
+        if (control->inherits("QPushButton") || control->inherits("QLineEdit") || control->inherits("QListView") ||
+            control->inherits("QScrollBar"))
+            palette.setColor(QPalette::Window, QColor(176, 176, 140)); // a border is a darker shade of it
+        control->setPalette(palette);
+    }
 }
 
 QPalette OnWhite(const QColor& text)

@@ -34,6 +34,8 @@ QFont BoldItalic(const QString& name, double points);
 /// Light yellow with dark text of its own, so that no desktop theme can make it unreadable; boxes and lists
 /// are white.
 QPalette LightYellow();
+/// Gives the boxes, buttons, lists and scroll bars of a window outlines with a contrast of 3 : 1 against the ground.
+void OutlineControls(const QWidget& window);
 /// A white ground with dark text of the given colour.
 QPalette OnWhite(const QColor& text);
 inline const QColor MakerRed(128, 0, 0);

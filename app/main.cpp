@@ -1,3 +1,4 @@
+#include "app/dialogs.h"
 #include "app/frmMain.h"
 #include "app/pictures.h"
 #include "app/program.h"
@@ -14,6 +15,7 @@ int main(int argc, char* argv[])
     QApplication::setWindowIcon(pictures::OfProgram());
 
     KeepNoSettings();
+    const DialogKeeper dialogs;
 
     frmMain window;
     // A session asks this at its end and whenever it wants everything saved; only its end closes the windows.

@@ -30,15 +30,11 @@ Owned<IFileDialog> Create(const CLSID& kind)
     return Owned<IFileDialog>(static_cast<IFileDialog*>(dialog));
 }
 
-/// "Texts (*.txt)" is both: the label, and the pattern in its brackets.
-void SetFilters(IFileDialog& dialog, const QStringList& filters)
+void SetFilters(IFileDialog& dialog, const QList<PuzzleFileDialog::Filter>& filters)
 {
-    QStringList patterns;
-    for (const QString& filter : filters)
-        patterns += filter.section('(', -1).chopped(1);
     std::vector<COMDLG_FILTERSPEC> types;
-    for (qsizetype i = 0; i < filters.size(); ++i)
-        types.push_back({Wide(filters.at(i)), Wide(patterns.at(i))});
+    for (const PuzzleFileDialog::Filter& filter : filters)
+        types.push_back({Wide(filter.label), Wide(filter.pattern)});
     dialog.SetFileTypes(static_cast<UINT>(types.size()), types.data());
 }
 
@@ -120,7 +116,7 @@ QString WithoutAddedExtension(const QString& path, const QString& given, QWidget
 
 } // namespace
 
-QString AskForFile(QFileDialog::AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+QString AskForFile(QFileDialog::AcceptMode mode, const QList<PuzzleFileDialog::Filter>& filters, const QDir& folder, const QString& name,
                    QWidget& owner)
 {
     const bool save = mode == QFileDialog::AcceptSave;

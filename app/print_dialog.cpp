@@ -22,7 +22,7 @@ QString ProposedPdf(const QString& title)
 /// Where there is no printer: this desktop's print dialog knows nothing else.
 bool AskForPdf(QPrinter& printer, QWidget& owner)
 {
-    const QString path = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {QStringLiteral("PDF Files (*.pdf)")},
+    const QString path = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {{QStringLiteral("PDF Files (*.pdf)"), QStringLiteral("*.pdf")}},
                                                DocumentsFolder(), ProposedPdf(printer.docName()), &owner, DialogName);
     printer.setOutputFileName(path);
     printer.setOutputFormat(QPrinter::PdfFormat); // whatever the name

@@ -2,18 +2,14 @@
 
 #include <QToolBar>
 
-/// A button of a toolbar: its key, which is its action's name too, its picture's name in the resources, its
-/// tip.
+#include <functional>
+
 struct ToolbarButton {
-    const char* key;
-    const char* picture;
-    const char* tip;
-    QKeySequence::StandardKey keys = QKeySequence::UnknownKey; ///< that do the same; the tip tells of them
+    const char* key; ///< its action's name; its icon's, too, in small letters
+    QString tooltip;
 };
 
-/// A toolbar of picture buttons across the top of `window`'s client area, 360 twips high; its buttons count
-/// from 1, as ToolbarIndex tells. It cannot be moved or hidden.
-QToolBar* MakeToolbar(const QString& name, const QString& accessibleName,
-                      std::initializer_list<ToolbarButton> buttons, QWidget* client);
-
-int ToolbarIndex(const QAction& action);
+/// A toolbar of icon buttons, called `name`, in a window's client area. It cannot be moved or hidden. `clicked` gets
+/// a button's index, from 1, when it is pressed, by click or key, while no dialog is open.
+QToolBar* MakeToolbar(const char* name, const QString& accessibleName, const std::vector<ToolbarButton>& buttons,
+                      QWidget& client, const std::function<void(int index)>& clicked);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/dialogs.h"
 #include "app/frmMain.h"
 #include "tools/driving.h"
 
@@ -47,6 +48,8 @@ public:
     Answers Answering;
 
 private:
+    DialogKeeper Dialogs;
+
     void Click(const char* button);
     void Type(const char* box, const QString& text);
     void Fill(int words);

@@ -1,9 +1,9 @@
 #include "app/widgets/client_window.h"
 
+#include "app/dialogs.h"
 #include "app/looks.h"
 #include "app/widgets/focus_ring.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
@@ -20,8 +20,10 @@ public:
 
 } // namespace
 
-ClientWindow::ClientWindow() : Client(new QWidget)
+ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
 {
+    if (screen != nullptr)
+        setScreen(screen);
     setPalette(looks::LightYellow());
     auto* area = new ClientArea;
     area->setFrameShape(QFrame::NoFrame);
@@ -35,32 +37,39 @@ ClientWindow::ClientWindow() : Client(new QWidget)
 void ClientWindow::FixClient(QSize size)
 {
     Client->setFixedSize(size);
+    looks::OutlineControls(*this);
     new FocusRing(Client);
     FitToScreen();
+    Centre();
 }
 
-/// Wayland's window managers offer every window to be maximised, and end a program whose window does not follow.
 bool ClientWindow::MayGrow() const
 {
-    return windowFlags().testFlag(Qt::WindowMaximizeButtonHint) ||
-           QGuiApplication::platformName() == QLatin1String("wayland");
+    return windowFlags().testFlag(Qt::WindowMaximizeButtonHint) || AnyWindowMayGrow();
 }
 
 void ClientWindow::FitToScreen()
 {
     const QSize frame = frameGeometry().size() - geometry().size();
-    const QRect available = screen()->availableGeometry();
-    const QSize room = available.size() - frame;
+    const QSize room = screen()->availableSize() - frame;
     const int bar = static_cast<QScrollArea*>(centralWidget())->verticalScrollBar()->sizeHint().width();
     const QSize whole = sizeHint();
     const QSize bars(whole.height() > room.height() ? bar : 0, whole.width() > room.width() ? bar : 0);
     NormalSize = (whole + bars).boundedTo(room);
     setMinimumSize(NormalSize);
-    if (!MayGrow())
+    if (MayGrow()) { // its border stays fixed all the same: X11's window managers change the size in these steps
+        setBaseSize(NormalSize);
+        setSizeIncrement(10'000, 10'000);
+    } else
         setMaximumSize(NormalSize);
-    resize(NormalSize);
-    QRect place(QPoint(), NormalSize + frame);
-    place.moveCenter(available.center());
+    if (!isMaximized() && !isFullScreen())
+        resize(NormalSize);
+}
+
+void ClientWindow::Centre()
+{
+    QRect place(QPoint(), frameGeometry().size());
+    place.moveCenter(screen()->availableGeometry().center());
     move(place.topLeft());
 }
 
@@ -69,7 +78,10 @@ bool ClientWindow::event(QEvent* event)
     if (!FrameKnown && isVisible() && frameGeometry() != geometry()) {
         FrameKnown = true;
         FitToScreen();
+        Centre();
     }
+    if (event->type() == QEvent::ScreenChangeInternal)
+        FitToScreen();
     return QMainWindow::event(event);
 }
 

@@ -9,7 +9,8 @@ class ClientWindow : public QMainWindow {
     Q_OBJECT
 
 protected:
-    ClientWindow();
+    /// Will be centred on `screen`, or on the primary one.
+    explicit ClientWindow(QScreen* screen = nullptr);
 
     /// Gives the client area its size in pixels, once everything stands in it.
     void FixClient(QSize size);
@@ -22,6 +23,7 @@ protected:
 
 private:
     void FitToScreen();
+    void Centre();
     bool MayGrow() const;
 
     QSize NormalSize;        ///< of the window without its frame

@@ -18,20 +18,24 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder,
+PuzzleFileDialog::PuzzleFileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder,
                                    const QString& name, QWidget* owner)
     : QFileDialog(owner)
 {
     setAcceptMode(mode);
     setFileMode(QFileDialog::AnyFile);
     setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops show none of their own
-    setNameFilters(filters);
+    QStringList names;
+    for (const Filter& filter : filters)
+        names += QStringLiteral("%1 (%2)").arg(filter.label, filter.pattern);
+    setOption(HideNameFilterDetails); // the pattern just added: a label may name another
+    setNameFilters(names);
     setDirectory(folder);
     if (!name.isEmpty())
         selectFile(name);
 }
 
-QString PuzzleFileDialog::Ask(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+QString PuzzleFileDialog::Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
                               QWidget* owner, const QString& objectName)
 {
 #ifdef Q_OS_WIN

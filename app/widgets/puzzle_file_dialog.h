@@ -8,13 +8,18 @@ class PuzzleFileDialog : public QFileDialog {
     Q_OBJECT
 
 public:
+    struct Filter {
+        QString label; ///< shown as it is
+        QString pattern;
+    };
+
     /// `name` is the name, in `folder`, or the path that the dialog shows at first.
-    PuzzleFileDialog(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+    PuzzleFileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
                      QWidget* owner);
 
     /// Runs a dialog of these, named `objectName`, or the desktop's own where it does the same. The chosen path, or
     /// empty as below.
-    static QString Ask(AcceptMode mode, const QStringList& filters, const QDir& folder, const QString& name,
+    static QString Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
                        QWidget* owner, const QString& objectName = QStringLiteral("dlgFileName"));
 
     /// Runs the dialog. The chosen path as it was given, or empty when the user cancelled or chose a path in

@@ -7,9 +7,10 @@ namespace {
 constexpr double SmallestPoints = 7;
 constexpr qsizetype LongestShown = 300; ///< characters; more has no room in any title's label
 
-bool Fits(const QFont& font, const QRect& room, int flags, const QString& text)
+/// Lines end between words, or within a word that is wider than the label.
+bool Fits(QPainter& painter, const QRect& room, const QString& text, const QTextOption& lines)
 {
-    const QRect needed = QFontMetrics(font).boundingRect(room, flags, text);
+    const QRectF needed = painter.boundingRect(room, text, lines);
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
@@ -17,15 +18,17 @@ bool Fits(const QFont& font, const QRect& room, int flags, const QString& text)
 
 void TitleLabel::paintEvent(QPaintEvent* /*event*/)
 {
-    const int flags = static_cast<int>(alignment()) | Qt::TextWordWrap | Qt::TextWrapAnywhere;
+    QPainter painter(this);
+    QTextOption lines(alignment());
+    lines.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     QString shown = text().left(LongestShown);
     QFont smaller = font();
-    while (smaller.pointSizeF() > SmallestPoints && !Fits(smaller, rect(), flags, shown))
+    while (smaller.pointSizeF() > SmallestPoints && !Fits(painter, rect(), shown, lines)) {
         smaller.setPointSizeF(smaller.pointSizeF() - 0.25);
-    while (!shown.isEmpty() && !Fits(smaller, rect(), flags, shown))
+        painter.setFont(smaller);
+    }
+    while (!shown.isEmpty() && !Fits(painter, rect(), shown, lines))
         shown = shown.chopped(shown.endsWith(u'…') ? 2 : 1) + u'…';
     setToolTip(shown == text() ? QString() : QStringLiteral("<span>%1</span>").arg(text().toHtmlEscaped()));
-    QPainter painter(this);
-    painter.setFont(smaller);
-    painter.drawText(rect(), flags, shown);
+    painter.drawText(rect(), shown, lines);
 }
