@@ -69,7 +69,8 @@ struct Model : Seen {
         }
         const auto before = [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; };
         const auto place = std::ranges::upper_bound(Words, Word, before);
-        Selected += place - Words.begin() <= Selected ? 1 : 0;
+        for (int* position : {&Selected, &LookedAt})
+            *position += place - Words.begin() <= *position ? 1 : 0;
         Words.insert(place, Word);
         SaveAs = true;
         Save = Save || !DocFileName.isEmpty();
@@ -77,7 +78,7 @@ struct Model : Seen {
     }
     void Pick(int position)
     {
-        Selected = position;
+        Selected = LookedAt = position;
         SelectedWord = Words[position];
         EditButtons = true;
         ClearTextbox();
@@ -96,6 +97,7 @@ struct Model : Seen {
         ClearTextbox();
         if (Selected < 0)
             return;
+        LookedAt -= LookedAt > Selected || LookedAt == Words.size() - 1 ? 1 : 0;
         Words.removeAt(std::exchange(Selected, -1));
         EditMode = Saved = false;
     }
@@ -113,7 +115,7 @@ struct Model : Seen {
         Title = "New Puzzle";
         Caption = "Glyphgrove-New Puzzle";
         Words.clear();
-        Selected = EditIndex = -1;
+        Selected = LookedAt = EditIndex = -1;
         Save = SaveAs = false;
         Saved = true;
     }
@@ -190,6 +192,59 @@ struct Model : Seen {
             if (Word.size() < 20 && (c == ' ' ? !Word.isEmpty() : c.isLetter()))
                 Word += c;
     }
+    /// Types over a selection, key by key: BOX,START,LENGTH,TEXT.
+    void TypeOver(const QString& about)
+    {
+        const bool title = about.startsWith('t');
+        if (!title)
+            LeaveTitle();
+        InTitle = title;
+        QString& box = title ? Title : Word;
+        qsizetype at = std::min<qsizetype>(about.section(',', 1, 1).toInt(), box.size());
+        qsizetype selected = std::min<qsizetype>(about.section(',', 2, 2).toInt(), box.size() - at);
+        for (QChar c : about.section(',', 3)) {
+            c = c == '\n' ? ' ' : c;
+            const bool taken = title ? true : c == ' ' ? !box.isEmpty() : c.isLetter();
+            if (!taken || box.size() - selected >= (title ? 30 : 20))
+                continue;
+            box.replace(at++, std::exchange(selected, 0), c);
+        }
+    }
+    void FocusList()
+    {
+        LeaveTitle();
+        if (LookedAt < 0 && !Words.isEmpty())
+            LookedAt = 0;
+    }
+    /// Keys in the list: they move the entry that is looked at, and choose it unless Ctrl is held.
+    void PressInList(const QString& key)
+    {
+        FocusList();
+        const int last = static_cast<int>(Words.size()) - 1;
+        const QString bare = key.section('+', -1);
+        if (bare == "Up" || bare == "Down")
+            LookedAt = std::clamp(LookedAt + (bare == "Up" ? -1 : 1), std::min(0, last), last);
+        if (bare == "Home" || bare == "End")
+            LookedAt = bare == "Home" ? std::min(0, last) : last;
+        if (bare.size() == 1) {
+            for (int i = 1; i <= last + 1; ++i)
+                if (const int next = (LookedAt + i) % (last + 1); Words[next].startsWith(bare, Qt::CaseInsensitive))
+                    return Pick(next);
+            return;
+        }
+        if (LookedAt >= 0 && (bare == "Space" || !key.startsWith("Ctrl")))
+            Pick(LookedAt);
+    }
+    /// Keys that are all there before the first is taken: those after one that brings up a dialog are lost.
+    void PressWaiting(const QStringList& keys)
+    {
+        static const QMap<QString, QString> commands{
+            {"Ctrl+N", "tool:New"}, {"Ctrl+S", "tool:Save"}, {"Ctrl+O", "tool:Open"},    {"F1", "menu:ha"},
+            {"Return", "enter"},    {"Ctrl+Q", "closemain"}, {"Ctrl+Shift+S", "menu:fe"}};
+        for (const QString& key : keys)
+            if (Boxes.isEmpty() && Shown == "frmMain")
+                Do(commands.value(key, "type:" + key));
+    }
     void Close() { Shown = CheckForSave() ? Shown : ""; }
     void ClickTitle()
     {
@@ -213,10 +268,14 @@ struct Model : Seen {
             {"enter", {true, [&] { Enter(); }}},
             {"titleenter", {true, [&] { Enter(); }}},
             {"wipe", {!InTitle, [&] { Word.clear(); }}},
-            {"title", {Title.size() + about.size() <= 30, [&] { InTitle = true, Title += about; }}},
+            {"over", {true, [&] { TypeOver(about); }}},
+            {"paste", {true, [&] { TypeOver(about); }}},
+            {"look", {true, [&] { PressInList(about); }}},
+            {"waiting", {!InTitle, [&] { LeaveTitle(), PressWaiting(about.split(' ')); }}},
+            {"double", {about.toInt() < std::min<qsizetype>(Words.size(), 20), [&] { Pick(about.toInt()); }}},
             {"clicktitle", {true, [&] { ClickTitle(); }}},
             {"leave", {true, [&] { LeaveTitle(); }}},
-            {"tabs", {true, [&] { LeaveTitle(), InTitle = true, LeaveTitle(); }}},
+            {"tabs", {true, [&] { FocusList(), InTitle = true, LeaveTitle(); }}},
             {"pick", {about.toInt() < std::min<qsizetype>(Words.size(), 20), [&] { Pick(about.toInt()); }}},
             {"edit", {EditButtons, [&] { EditWord(); }}},
             {"delete", {EditButtons, [&] { LeaveTitle(), Delete(false); }}},
@@ -262,16 +321,22 @@ private slots:
         QRandomGenerator chance(static_cast<quint32>(seed));
         auto model = std::make_unique<Model>(chance, disk);
         const QStringList steps =
-            QString("type:cat type:CAT type:Cat_ type:dog type:ice_cream type:_zebra type:a type:b "
-                    "type:1-2 type:abcdefghijklmnopqrstuvw enter enter enter enter enter enter enter "
-                    "enter enter titleenter wipe title:x_y title:_Title clicktitle leave edit edit delete "
-                    "tool:Delete tool:New menu:fn tool:Open menu:fo tool:Save menu:fv menu:fe menu:fq "
-                    "closemain menu:ha create create back closepuzzle pick pick pick pick tabs tabs")
+            QString(
+                "type:cat type:CAT type:Cat_ type:dog type:ice_cream type:_zebra type:a type:b "
+                "type:1-2 type:abcdefghijklmnopqrstuvw enter enter enter enter enter enter enter "
+                "enter enter titleenter wipe over:t,99,0,x_y paste:t,99,0,_Title clicktitle leave edit edit delete "
+                "over:w,0,2,1x2 over:w,0,9,_1y paste:w,0,3,_t paste:w,1,1,1-2 paste:w,0,0,abcdefghijklmnopqrstuv "
+                "over:t,0,1,Q paste:t,0,20,R_S look:Down look:Up look:Home look:End look:c look:z look:Space "
+                "look:Ctrl+Down look:Ctrl+Up look:Ctrl+Home look:Ctrl+End look:Ctrl+Space double "
+                "waiting:Ctrl+N_d_o_g_Return waiting:F1_Ctrl+O_x waiting:Ctrl+Shift+S_Ctrl+N_y "
+                "waiting:Ctrl+S_d_Return_Ctrl+O_e waiting:c_a_t_Return_Ctrl+Q_x "
+                "tool:Delete tool:New menu:fn tool:Open menu:fo tool:Save menu:fv menu:fe menu:fq "
+                "closemain menu:ha create create back closepuzzle pick pick pick pick tabs tabs")
                 .split(' ');
         QStringList done;
         for (int i = 0; i < count;) {
             QString step = steps[chance.bounded(static_cast<int>(steps.size()))];
-            if (step == "pick")
+            if (step == "pick" || step == "double")
                 step += ':' + QString::number(chance.bounded(12));
             if (!model->Do(step))
                 continue;

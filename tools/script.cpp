@@ -1,11 +1,22 @@
 #include "tools/script.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
 #include <map>
 
 namespace driving {
+
+namespace {
+
+void Paste(QLineEdit& box, const QString& text)
+{
+    QApplication::clipboard()->setText(text);
+    box.paste();
+}
+
+} // namespace
 
 void Script::Start(generator::RandomSource random)
 {
@@ -57,6 +68,12 @@ void Script::Step(const QString& step)
         {"tabs", [&] { TabRound(); }},
         {"key", [&] { QTest::keySequence(Activate(), QKeySequence(about)); }},
         {"pick", [&] { Pick(about.toInt()); }},
+        {"double", [&] { Pick(about.toInt()), Pick(about.toInt(), true); }},
+        {"look",
+         [&] { Control<QWidget>("lstWordlist").setFocus(), QTest::keySequence(Activate(), QKeySequence(about)); }},
+        {"over", [&] { Enter(about, [](QLineEdit& box, const QString& text) { QTest::keyClicks(&box, text); }); }},
+        {"paste", [&] { Enter(about, [](QLineEdit& box, const QString& text) { Paste(box, text); }); }},
+        {"waiting", [&] { PressWithoutWaiting(about); }},
         {"edit", [&] { Click("cmdEditWord"); }},
         {"delete", [&] { Click("cmdDelete"); }},
         {"create", [&] { Click("cmdCreatePuzzle"); }},
@@ -101,11 +118,46 @@ void Script::Fill(int words)
         Step(QStringLiteral("word:W%1%2").arg(QChar('a' + i % 26)).arg(QChar('a' + i / 26)));
 }
 
-void Script::Pick(int position)
+void Script::Pick(int position, bool secondClick)
 {
     auto& list = Control<QListWidget>("lstWordlist");
     const QPoint place = list.visualItemRect(list.item(position)).center();
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+    if (secondClick)
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
+    else
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+}
+
+/// BOX,START,LENGTH,TEXT: the text in the place of a selection.
+void Script::Enter(const QString& about, void (*enter)(QLineEdit& box, const QString& text))
+{
+    auto& box = Control<QLineEdit>(about.startsWith('t') ? "txtTitle" : "txtNewWords");
+    box.setFocus();
+    box.end(false);
+    box.setSelection(about.section(',', 1, 1).toInt(), about.section(',', 2, 2).toInt());
+    enter(box, about.section(',', 3));
+}
+
+/// As when the program was busy: they are all there before the first is taken, and reach the window that had the
+/// focus then, also below a dialog.
+void Script::PressWithoutWaiting(const QString& keys)
+{
+    auto& box = Control<QLineEdit>("txtNewWords");
+    box.setFocus();
+    box.end(false);
+    QWindow* window = Activate()->window()->windowHandle();
+    int taken = 0;
+    const QStringList waiting = keys.split(' ');
+    for (const QString& key : waiting)
+        QTimer::singleShot(0, window, [&taken, window, key] {
+            ++taken;
+            const QKeyCombination pressed = QKeySequence(key)[0];
+            const QString text = key.size() == 1 ? key : QString();
+            for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+                qt_handleKeyEvent(window, type, pressed.key(), pressed.keyboardModifiers(), text);
+        });
+    if (!QTest::qWaitFor([&] { return taken == waiting.size(); }))
+        qFatal("keys were left over: %s", qPrintable(keys));
 }
 
 /// Past the end of the window and the title box.

@@ -53,7 +53,9 @@ private:
     void Click(const char* button);
     void Type(const char* box, const QString& text);
     void Fill(int words);
-    void Pick(int position);
+    void Pick(int position, bool secondClick = false);
+    void Enter(const QString& about, void (*enter)(QLineEdit& box, const QString& text));
+    void PressWithoutWaiting(const QString& keys);
     void TabRound();
     void ChooseFromMenu(char menu, char item);
 };

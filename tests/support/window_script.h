@@ -20,7 +20,7 @@ using namespace driving;
 struct Seen {
     QString Caption, Title;
     QStringList Words = {};
-    int Selected = -1;
+    int Selected = -1, LookedAt = -1;
     QString Word = {};
     bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
     QString Count = "0";               ///< "!" after it where it is red
@@ -75,6 +75,7 @@ protected:
         for (int i = 0; i < list.count(); ++i)
             seen.Words += list.item(i)->text();
         seen.Selected = list.SelectedPosition();
+        seen.LookedAt = list.currentRow();
         seen.Word = Control<QLineEdit>("txtNewWords").text();
         seen.Save = Control<QAction>("mnuSave").isEnabled();
         seen.SaveAs = Control<QAction>("mnuSaveAs").isEnabled();
