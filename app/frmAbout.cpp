@@ -1,16 +1,16 @@
 #include "app/frmAbout.h"
 
-#include "app/looks.h"
+#include "app/controls/looks.h"
 #include "app/program.h"
-#include "app/widgets/focus_ring.h"
-#include "app/widgets/maker_link.h"
+#include "app/controls/focus_ring.h"
+#include "app/controls/maker_link.h"
 
 #include <QApplication>
 #include <QPushButton>
 
 frmAbout::frmAbout(QWidget* owner) : QDialog(owner), Scale(looks::ScaleForFont(*this))
 {
-    setObjectName(QStringLiteral("frmAbout"));
+    setObjectName("frmAbout");
     setWindowTitle(tr("About %1").arg(program::Name));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint);
@@ -26,20 +26,20 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner), Scale(looks::ScaleForFont(*
 void frmAbout::BuildMaker()
 {
     auto* link = new MakerLink(14.25, this);
-    link->setObjectName(QStringLiteral("lblbytallowick"));
+    link->setObjectName("lblbytallowick");
     looks::Place(*link, 150, 90, 0, 360, Scale);
     PlaceTrademark(*link, looks::BoldItalic(looks::Serif, 9.75));
 }
 
 void frmAbout::BuildTexts()
 {
-    AddText(QStringLiteral("lblDescription"),
+    AddText("lblDescription",
             tr("Glyphgrove is a glyphgrove creator program, with a 40 word per puzzle capability, automatic "
                "puzzle sizing from 10 X 10 to 30 X 30, automatic aphabetizing and word list save and edit "
                "features."),
             495, 1005);
-    AddText(QStringLiteral("lblVersion"), tr("Version %1").arg(program::Version), 1560, 255);
-    AddText(QStringLiteral("lblNotice"), program::NoticeLine, 1830, 255);
+    AddText(QString("lblVersion"), tr("Version %1").arg(program::Version), 1560, 255);
+    AddText("lblNotice", program::NoticeLine, 1830, 255);
 }
 
 void frmAbout::AddText(const QString& name, const QString& text, int y, int height)
@@ -55,7 +55,7 @@ void frmAbout::AddText(const QString& name, const QString& text, int y, int heig
 void frmAbout::BuildButton()
 {
     auto* cmdOK = new QPushButton(tr("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
     cmdOK->setFocus();
     // With the focus on the link, Return opens the page.

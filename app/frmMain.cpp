@@ -1,13 +1,13 @@
 #include "app/frmMain.h"
 
-#include "app/accessible.h"
-#include "app/dialogs.h"
+#include "app/controls/accessible.h"
+#include "app/desktop/dialogs.h"
 #include "app/frmAbout.h"
-#include "app/looks.h"
-#include "app/message_boxes.h"
+#include "app/controls/looks.h"
+#include "app/desktop/message_boxes.h"
 #include "app/program.h"
-#include "app/toolbars.h"
-#include "app/widgets/maker_link.h"
+#include "app/controls/toolbars.h"
+#include "app/controls/maker_link.h"
 #include "document/character_set.h"
 #include "wordlist/limits.h"
 
@@ -37,7 +37,7 @@ constexpr int BottomRow = 5895;
 frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*this)), Workspace(std::move(random))
 {
     TellAssistiveTechnology();
-    setObjectName(QStringLiteral("frmMain"));
+    setObjectName("frmMain");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     BuildMenus();
@@ -59,7 +59,7 @@ frmMain::~frmMain()
 void frmMain::BuildMenus()
 {
     QMenu* mnuFile = menuBar()->addMenu(tr("&File"));
-    mnuFile->setObjectName(QStringLiteral("mnuFile"));
+    mnuFile->setObjectName("mnuFile");
     AddCommand(mnuFile, "mnuOpen", tr("&Open"), QKeySequence::Open, &frmMain::mnuOpen_Click);
     mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), QKeySequence::Save, &frmMain::mnuSave_Click);
     mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
@@ -69,7 +69,7 @@ void frmMain::BuildMenus()
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     QMenu* mnuHelp = menuBar()->addMenu(tr("&Help"));
-    mnuHelp->setObjectName(QStringLiteral("mnuHelp"));
+    mnuHelp->setObjectName("mnuHelp");
     AddCommand(mnuHelp, "mnuAbout", tr("&About"), QKeySequence::HelpContents, &frmMain::mnuAbout_Click);
 }
 
@@ -77,7 +77,7 @@ QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& capti
                              void (frmMain::*command)())
 {
     QAction* action = menu->addAction(caption);
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(name);
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, [this, command] {
         if (CommandsMayStart())
@@ -100,20 +100,20 @@ void frmMain::BuildToolbar()
 void frmMain::BuildTitle()
 {
     lblBigTitle = new TitleLabel(tr("New Puzzle"), Client);
-    lblBigTitle->setObjectName(QStringLiteral("lblBigTitle"));
+    lblBigTitle->setObjectName("lblBigTitle");
     lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
     lblBigTitle->setAlignment(Qt::AlignCenter);
     Place(*lblBigTitle, 120, 420, ClientWidth - 240, 735);
 
-    txtTitle = new EntryBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
-    txtTitle->setObjectName(QStringLiteral("txtTitle"));
+    txtTitle = new TextBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
+    txtTitle->setObjectName("txtTitle");
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(tr("New Puzzle"));
     Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
     Place(*AddLabel("lblTitle", tr("Title:"), txtTitle), Margin, TitleRow, BoxLeft - Margin, RowHeight);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
-    connect(txtTitle, &EntryBox::Clicked, this, &frmMain::txtTitle_Click);
+    connect(txtTitle, &TextBox::Clicked, this, &frmMain::txtTitle_Click);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* /*old*/, QWidget* now) { FocusMoved(now); });
 }
@@ -121,7 +121,7 @@ void frmMain::BuildTitle()
 void frmMain::BuildWordEntry()
 {
     txtNewWords = new WordBox(Client);
-    txtNewWords->setObjectName(QStringLiteral("txtNewWords"));
+    txtNewWords->setObjectName("txtNewWords");
     txtNewWords->setAccessibleName(tr("Word"));
     Place(*txtNewWords, BoxLeft, WordRow, BoxWidth, RowHeight);
     Place(*AddLabel("lblWord", tr("Word:"), txtNewWords), Margin, WordRow, BoxLeft - Margin, RowHeight);
@@ -146,7 +146,7 @@ void frmMain::BuildCommandButtons()
 void frmMain::BuildWordList()
 {
     lstWordlist = new WordList(Client);
-    lstWordlist->setObjectName(QStringLiteral("lstWordlist"));
+    lstWordlist->setObjectName("lstWordlist");
     lstWordlist->setAccessibleName(tr("My Word List"));
     Place(*lstWordlist, Margin, ListTop, ClientWidth - 2 * Margin, ListHeight);
     connect(lstWordlist, &WordList::Chosen, this, &frmMain::lstWordlist_Click);
@@ -171,7 +171,7 @@ void frmMain::BuildWordList()
 void frmMain::BuildMakerLink()
 {
     auto* lblTallowick = new MakerLink(9.75, Client);
-    lblTallowick->setObjectName(QStringLiteral("lblTallowick"));
+    lblTallowick->setObjectName("lblTallowick");
     lblTallowick->setToolTip(tr("Click to go to the Tallowick website."));
     Place(*lblTallowick, Margin, BottomRow + 60, 0, 0);
     PlaceTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25));
@@ -186,7 +186,7 @@ void frmMain::Place(QWidget& control, int x, int y, int width, int height)
 QLabel* frmMain::AddLabel(const char* name, const QString& text, QWidget* told)
 {
     auto* label = new QLabel(text, Client);
-    label->setObjectName(QLatin1String(name));
+    label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(told);
     return label;
@@ -195,7 +195,7 @@ QLabel* frmMain::AddLabel(const char* name, const QString& text, QWidget* told)
 QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (frmMain::*command)())
 {
     auto* button = new QPushButton(caption, Client);
-    button->setObjectName(QLatin1String(name));
+    button->setObjectName(name);
     button->setAutoDefault(true); // Return on it presses it
     connect(button, &QPushButton::clicked, this, command);
     return button;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/frmPuzzle.h"
-#include "app/widgets/client_window.h"
-#include "app/widgets/entry_box.h"
-#include "app/widgets/title_label.h"
-#include "app/widgets/word_list.h"
+#include "app/controls/client_window.h"
+#include "app/controls/text_box.h"
+#include "app/controls/title_label.h"
+#include "app/controls/word_list.h"
 #include "generator/workspace.h"
 
 #include <QAction>
@@ -86,7 +86,7 @@ private:
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void ToolbarSave();
-    QDir DocumentFolder() const;
+    QDir ProposedFolder() const;
     bool SaveFile(const QString& fileName);
     bool LoadFile(const QString& fileName);
 
@@ -99,7 +99,7 @@ private:
 
     double Scale; ///< of everything in the window, for the interface's font
     TitleLabel* lblBigTitle = nullptr;
-    EntryBox* txtTitle = nullptr;
+    TextBox* txtTitle = nullptr;
     WordBox* txtNewWords = nullptr;
     QPushButton* cmdEnter = nullptr;
     QPushButton* cmdCreatePuzzle = nullptr;

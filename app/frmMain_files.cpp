@@ -1,16 +1,16 @@
-#include "app/file_bytes.h"
-#include "app/folders.h"
+#include "app/desktop/file_bytes.h"
+#include "app/desktop/folders.h"
 #include "app/frmMain.h"
-#include "app/message_boxes.h"
-#include "app/widgets/puzzle_file_dialog.h"
+#include "app/desktop/message_boxes.h"
+#include "app/desktop/file_dialog.h"
 #include "document/puzzle_file.h"
 
 #include <QFileInfo>
 
 namespace {
 
-const PuzzleFileDialog::Filter PuzzleFiles{QStringLiteral("Glyphgrove Files (*.pux)"), QStringLiteral("*.pux")};
-const PuzzleFileDialog::Filter AllFiles{QStringLiteral("All File (*.*)"), QStringLiteral("*")};
+const FileDialog::Filter PuzzleFiles{"Glyphgrove Files (*.pux)", "*.pux"};
+const FileDialog::Filter AllFiles{"All File (*.*)", "*"};
 
 } // namespace
 
@@ -19,7 +19,7 @@ void frmMain::mnuOpen_Click()
     if (CheckForSave())
         return;
     const QString fileName =
-        PuzzleFileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFiles}, DocumentFolder(), RememberedName, this);
+        FileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFiles}, ProposedFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;
@@ -27,9 +27,9 @@ void frmMain::mnuOpen_Click()
     DocFileName = fileRejected ? QString() : fileName;
 }
 
-QDir frmMain::DocumentFolder() const
+QDir frmMain::ProposedFolder() const
 {
-    return DocFileName.isEmpty() ? DocumentsFolder() : QFileInfo(DocFileName).absoluteDir();
+    return DocFileName.isEmpty() ? UsersDocuments() : QFileInfo(DocFileName).absoluteDir();
 }
 
 void frmMain::mnuSave_Click()
@@ -40,8 +40,8 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    const QString fileName = PuzzleFileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles},
-                                                   DocumentFolder(), RememberedName, this);
+    const QString fileName = FileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles},
+                                                   ProposedFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;

@@ -1,8 +1,8 @@
 #include "app/frmPuzzle.h"
 
-#include "app/looks.h"
+#include "app/controls/looks.h"
 #include "app/program.h"
-#include "app/toolbars.h"
+#include "app/controls/toolbars.h"
 
 #include <QCloseEvent>
 
@@ -20,7 +20,7 @@ frmPuzzle::frmPuzzle(QScreen* screen)
     : ClientWindow(screen), pctPuzzle(new PuzzleSurface(Client)), lblBigTitle(new TitleLabel(Client)), lblWords(),
       cmdPrint(new QPushButton(tr("Print Puzzle"), Client))
 {
-    setObjectName(QStringLiteral("frmPuzzle"));
+    setObjectName("frmPuzzle");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_QuitOnClose, false); // the main window, hidden meanwhile, comes back
@@ -33,13 +33,13 @@ frmPuzzle::frmPuzzle(QScreen* screen)
 
 void frmPuzzle::BuildSurface()
 {
-    pctPuzzle->setObjectName(QStringLiteral("pctPuzzle"));
+    pctPuzzle->setObjectName("pctPuzzle");
     looks::Place(*pctPuzzle, 4800, 240, SurfaceWidth, SurfaceWidth);
 }
 
 void frmPuzzle::BuildTitle()
 {
-    lblBigTitle->setObjectName(QStringLiteral("lblBigTitle"));
+    lblBigTitle->setObjectName("lblBigTitle");
     lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 15.75));
     lblBigTitle->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -50,7 +50,7 @@ void frmPuzzle::BuildWordLabels()
 {
     for (int i = 0; i < wordlist::MaxWords; ++i) {
         auto* label = new QLabel(Client);
-        label->setObjectName(QStringLiteral("lblWords%1").arg(i));
+        label->setObjectName(QString("lblWords%1").arg(i));
         label->setTextFormat(Qt::PlainText);
         label->setFont(looks::Font(looks::Monospaced, 8.25));
         lblWords.at(static_cast<std::size_t>(i)) = label;
@@ -68,7 +68,7 @@ void frmPuzzle::BuildToolbar()
     toolbar->actions().first()->setShortcuts(QKeySequence::Print);
     toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) << Qt::Key_Escape);
     toolbar->widgetForAction(toolbar->actions().first())->setFocus();
-    cmdPrint->setObjectName(QStringLiteral("cmdPrint"));
+    cmdPrint->setObjectName("cmdPrint");
     cmdPrint->hide();
     connect(cmdPrint, &QPushButton::clicked, this, &frmPuzzle::cmdPrint_Click);
 }

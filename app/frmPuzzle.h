@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/widgets/client_window.h"
-#include "app/widgets/puzzle_surface.h"
-#include "app/widgets/title_label.h"
+#include "app/controls/client_window.h"
+#include "app/controls/puzzle_surface.h"
+#include "app/controls/title_label.h"
 #include "wordlist/limits.h"
 
 #include <QPushButton>

@@ -1,8 +1,8 @@
-#include "app/dialogs.h"
+#include "app/desktop/dialogs.h"
 #include "app/frmMain.h"
-#include "app/pictures.h"
+#include "app/controls/icons.h"
 #include "app/program.h"
-#include "app/settings.h"
+#include "app/desktop/folders.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -11,8 +11,8 @@ int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(program::Name);
-    QGuiApplication::setDesktopFileName(QStringLiteral("example.tallowick.Glyphgrove")); // for its icon, on Wayland
-    QApplication::setWindowIcon(pictures::OfProgram());
+    QGuiApplication::setDesktopFileName("example.tallowick.Glyphgrove"); // for its icon, on Wayland
+    QApplication::setWindowIcon(icons::OfProgram());
 
     KeepNoSettings();
     const DialogKeeper dialogs;

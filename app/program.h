@@ -7,10 +7,10 @@
 /// What the program says of itself.
 namespace program {
 
-inline const QString Name = QStringLiteral("Glyphgrove");
+inline const QString Name = "Glyphgrove";
 inline const QString Version = QString::fromLatin1(document::Version.data(), document::Version.size());
-inline const QString Maker = QStringLiteral("Tallowick");
-inline const QString MakerAddress = QStringLiteral("https://www.tallowick.example/");
-inline const QString NoticeLine = QStringLiteral("Glyphgrove is made by Tallowick.");
+inline const QString Maker = "Tallowick";
+inline const QString MakerAddress = "https://www.tallowick.example/";
+inline const QString NoticeLine = "Glyphgrove is made by Tallowick.";
 
 } // namespace program

@@ -1,5 +1,5 @@
-#include "app/page_printer.h"
-#include "tools/script.h"
+#include "app/desktop/page_printer.h"
+#include "driving/script.h"
 
 #include <benchmark/benchmark.h>
 
@@ -72,8 +72,8 @@ void PrintPuzzle(benchmark::State& state)
     workspace.LoadWordsArray(words);
     workspace.LoadPuzzleArray();
     for (auto _ : state) {
-        PagePaper paper(QStringLiteral("Title"));
-        paper.Printer().setOutputFileName(folder.filePath(QStringLiteral("page.pdf")));
+        PagePaper paper("Title");
+        paper.Printer().setOutputFileName(folder.filePath("page.pdf"));
         if (!view::PrintPage(paper, u"Title", words, workspace))
             state.SkipWithError("not printed");
     }

@@ -18,18 +18,18 @@ std::uint64_t Mix(std::uint64_t bits)
 
 } // namespace
 
-RandomSource::RandomSource(Clock clock) : Clock_(std::move(clock)), State_(Mix(Clock_())) {}
+RandomSource::RandomSource(Clock clock) : ReadClock(std::move(clock)), State(Mix(ReadClock())) {}
 
 void RandomSource::Reseed()
 {
-    State_ = Mix((State_ ^ Clock_()) + Increment);
+    State = Mix((State ^ ReadClock()) + Increment);
 }
 
 float RandomSource::Draw()
 {
     constexpr float Scale = 1.0F / (1U << 24U);
-    State_ += Increment;
-    return static_cast<float>(Mix(State_) >> 40U) * Scale;
+    State += Increment;
+    return static_cast<float>(Mix(State) >> 40U) * Scale;
 }
 
 int RandomSource::DrawBelow(int count)

@@ -27,8 +27,8 @@ public:
 private:
     static std::uint64_t SystemClock();
 
-    Clock Clock_;
-    std::uint64_t State_;
+    Clock ReadClock;
+    std::uint64_t State;
 };
 
 } // namespace generator

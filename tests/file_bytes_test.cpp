@@ -1,4 +1,4 @@
-#include "app/file_bytes.h"
+#include "app/desktop/file_bytes.h"
 
 #include <QDir>
 #include <QTemporaryDir>

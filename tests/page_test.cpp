@@ -1,4 +1,4 @@
-#include "app/page_printer.h"
+#include "app/desktop/page_printer.h"
 #include "tests/support/puzzles.h"
 
 #include <QProcess>

@@ -1,6 +1,6 @@
 #include "tests/support/window_script.h"
 
-#include "app/widgets/focus_ring.h"
+#include "app/controls/focus_ring.h"
 
 #include <QDesktopServices>
 
@@ -106,7 +106,7 @@ private slots:
         puzzle.setWindowState(Qt::WindowMaximized);
         QTest::qWait(50);
         QVERIFY(puzzle.height() > normal.height());
-        QCOMPARE(QRect(client.mapTo(&puzzle, QPoint()), client.size()), QRect(0, 0, 860, 553));
+        QCOMPARE(QRect(client.mapTo(&puzzle, QPoint()), client.size()), QRect(0, 115, 860, 553));
         puzzle.setWindowState(Qt::WindowNoState);
         QTRY_COMPARE(puzzle.size(), normal);
         QCOMPARE(Window->minimumSize(), Window->maximumSize());
@@ -139,7 +139,7 @@ private slots:
             QCOMPARE(Window->childAt(corner), &control); // what the mouse meets there
             QVERIFY(picture.pixelColor(5, 2) != QColor(0, 60, 140));
             for (const QPoint& edge : {QPoint(0, 5), QPoint(5, 1), QPoint(5, control.height() - 1)})
-                QCOMPARE(picture.pixelColor(edge) == QColor(0, 60, 140), name != QLatin1String("txtNewWords"));
+                QCOMPARE(picture.pixelColor(edge) == QColor(0, 60, 140), QString(name) != "txtNewWords");
         }
         Run("word:CAT no create");
         Activate();

@@ -1,5 +1,5 @@
 #include "tests/support/puzzles.h"
-#include "wordlist/entry.h"
+#include "wordlist/text_rule.h"
 #include "wordlist/letters.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"

@@ -2,7 +2,7 @@
 
 #include "tests/support/data.h"
 #include "tests/support/puzzles.h"
-#include "tools/script.h"
+#include "driving/script.h"
 
 #include <QAccessible>
 #include <QMetaEnum>

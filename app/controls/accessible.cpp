@@ -1,0 +1,144 @@
+#include "app/controls/accessible.h"
+
+#include "app/controls/focus_ring.h"
+#include "app/controls/maker_link.h"
+#include "app/controls/puzzle_surface.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+#include <map>
+#include <memory>
+
+namespace {
+
+/// One row of the puzzle's grid: its letters, with blanks between them so that they are spelt out.
+class RowOfLetters : public QAccessibleInterface {
+public:
+    RowOfLetters(PuzzleSurface& surface, int row) : Surface(surface), Row(row) {}
+
+    bool isValid() const override { return true; }
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&Surface); }
+    QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.readOnly = true;
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? Surface.Rows().value(Row) : QString();
+    }
+    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+    QRect rect() const override { return Surface.RowRect(Row); }
+
+private:
+    PuzzleSurface& Surface;
+    int Row;
+};
+
+class GridOfLetters : public QAccessibleWidget {
+public:
+    explicit GridOfLetters(PuzzleSurface* surface)
+        : QAccessibleWidget(surface, QAccessible::List, QObject::tr("Puzzle grid")), Surface(*surface)
+    {
+    }
+    ~GridOfLetters() override
+    {
+        for (const auto& [row, id] : Rows)
+            QAccessible::deleteAccessibleInterface(id);
+    }
+
+    int childCount() const override { return static_cast<int>(Surface.Rows().size()); }
+    QAccessibleInterface* child(int index) const override
+    {
+        if (index < 0 || index >= childCount())
+            return nullptr;
+        const auto known = Rows.find(index);
+        if (known != Rows.end())
+            return QAccessible::accessibleInterface(known->second);
+        auto* row = new RowOfLetters(Surface, index);
+        Rows[index] = QAccessible::registerAccessibleInterface(row);
+        return row;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        for (const auto& [row, id] : Rows)
+            if (QAccessible::accessibleInterface(id) == child)
+                return row;
+        return -1;
+    }
+
+private:
+    PuzzleSurface& Surface;
+    mutable std::map<int, QAccessible::Id> Rows; ///< those asked for so far
+};
+
+/// A client area tells of what is to be seen in it: neither of hidden controls nor of the ring around the focus.
+class SeenControls : public QAccessibleWidget {
+public:
+    explicit SeenControls(QWidget* client) : QAccessibleWidget(client, QAccessible::Client) {}
+
+    int childCount() const override { return static_cast<int>(Seen().size()); }
+    QAccessibleInterface* child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(Seen().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return static_cast<int>(Seen().indexOf(child->object()));
+    }
+
+private:
+    QObjectList Seen() const
+    {
+        QObjectList seen = widget()->children();
+        seen.removeIf([](const QObject* child) {
+            const auto* control = qobject_cast<const QWidget*>(child);
+            return control == nullptr || control->isHidden() || qobject_cast<const FocusRing*>(child) != nullptr;
+        });
+        return seen;
+    }
+};
+
+class PressableLink : public QAccessibleWidget {
+public:
+    explicit PressableLink(MakerLink* link)
+        : QAccessibleWidget(link, QAccessible::Link, QObject::tr("%1 website").arg(link->text()))
+    {
+    }
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction())
+            MakerLink::OpenMakersPage();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+};
+
+QAccessibleInterface* Describe(const QString& /*className*/, QObject* object)
+{
+    if (auto* surface = qobject_cast<PuzzleSurface*>(object))
+        return new GridOfLetters(surface);
+    if (auto* link = qobject_cast<MakerLink*>(object))
+        return new PressableLink(link);
+    if (object->objectName() == "client")
+        return new SeenControls(qobject_cast<QWidget*>(object));
+    return nullptr;
+}
+
+} // namespace
+
+void TellAssistiveTechnology()
+{
+    QAccessible::removeFactory(Describe);
+    QAccessible::installFactory(Describe);
+}

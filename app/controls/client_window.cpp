@@ -1,0 +1,101 @@
+#include "app/controls/client_window.h"
+
+#include "app/desktop/dialogs.h"
+#include "app/controls/looks.h"
+#include "app/controls/focus_ring.h"
+
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolButton>
+
+namespace {
+
+/// Asks for the size of what it shows, however large.
+class ClientArea : public QScrollArea {
+public:
+    QSize sizeHint() const override { return widget()->size(); }
+};
+
+} // namespace
+
+ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
+{
+    if (screen != nullptr)
+        setScreen(screen);
+    setPalette(looks::LightYellow());
+    auto* area = new ClientArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setAlignment(Qt::AlignCenter);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(Client);
+    Client->setObjectName("client");
+    setCentralWidget(area);
+    // Window managers ignore what is asked of them while the user drags a window.
+    Settled.setSingleShot(true);
+    Settled.setInterval(200);
+    connect(&Settled, &QTimer::timeout, this, &ClientWindow::FitToScreen);
+}
+
+void ClientWindow::FixClient(QSize size)
+{
+    Client->setFixedSize(size);
+    looks::OutlineControls(*this);
+    new FocusRing(Client);
+    FitToScreen();
+    Centre();
+}
+
+bool ClientWindow::MayGrow() const
+{
+    return windowFlags().testFlag(Qt::WindowMaximizeButtonHint) || AnyWindowMayGrow();
+}
+
+void ClientWindow::FitToScreen()
+{
+    const QSize frame = frameGeometry().size() - geometry().size();
+    const QSize room = screen()->availableSize() - frame;
+    const int bar = static_cast<QScrollArea*>(centralWidget())->verticalScrollBar()->sizeHint().width();
+    const QSize whole = sizeHint();
+    const QSize bars(whole.height() > room.height() ? bar : 0, whole.width() > room.width() ? bar : 0);
+    NormalSize = (whole + bars).boundedTo(room);
+    setMinimumSize(NormalSize);
+    if (!MayGrow())
+        setMaximumSize(NormalSize);
+    else if (isVisible()) { // its border stays fixed all the same: X11's window managers change the size in these steps
+        setBaseSize(NormalSize);
+        setSizeIncrement(10'000, 10'000); // the toolkit passes it on for a window that is there
+    }
+    if (!isMaximized() && !isFullScreen())
+        resize(NormalSize);
+}
+
+void ClientWindow::Centre()
+{
+    QRect place(QPoint(), frameGeometry().size());
+    place.moveCenter(screen()->availableGeometry().center());
+    move(place.topLeft());
+}
+
+bool ClientWindow::event(QEvent* event)
+{
+    if (!FrameKnown && isVisible() && frameGeometry() != geometry()) {
+        FrameKnown = true;
+        FitToScreen();
+        Centre();
+    }
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        Settled.start(); // to the fixed size, and to that of another screen
+    return QMainWindow::event(event);
+}
+
+/// Return presses the toolbar button with the focus, as it does other buttons.
+void ClientWindow::keyPressEvent(QKeyEvent* event)
+{
+    auto* button = qobject_cast<QToolButton*>(focusWidget());
+    if (button != nullptr && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QMainWindow::keyPressEvent(event);
+}

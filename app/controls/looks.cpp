@@ -1,0 +1,85 @@
+#include "app/controls/looks.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace looks {
+
+double ToPixels(const QWidget& widget, double twips)
+{
+    constexpr double TwipsPerInch = 1440;
+    return twips * widget.logicalDpiX() / TwipsPerInch;
+}
+
+void Place(QWidget& widget, int x, int y, int width, int height, double scale)
+{
+    const auto pixels = [&widget, scale](int twips) { return qRound(ToPixels(widget, twips * scale)); };
+    widget.setGeometry(pixels(x), pixels(y), pixels(width), pixels(height));
+}
+
+QSize SizeInPixels(const QWidget& widget, int width, int height, double scale)
+{
+    return {qRound(ToPixels(widget, width * scale)), qRound(ToPixels(widget, height * scale))};
+}
+
+double ScaleForFont(const QWidget& widget)
+{
+    // At 9 points, the usual size, a line and the longest caption take this much, in twips.
+    constexpr double UsualHeight = 210;
+    constexpr double UsualWidth = 1530;
+    const QFontMetricsF metrics(QApplication::font());
+    const double width = metrics.horizontalAdvance("Enter (EditMode)");
+    return std::max({1.0, metrics.height() / ToPixels(widget, UsualHeight), width / ToPixels(widget, UsualWidth)});
+}
+
+void SetCaption(QWidget& window, QString text)
+{
+    window.setWindowTitle(text.replace("[*]", "[*][*]"));
+}
+
+QFont Font(const QString& name, double points)
+{
+    QFont font(name);
+    font.setPointSizeF(points);
+    return font;
+}
+
+QFont BoldItalic(const QString& name, double points)
+{
+    QFont font = Font(name, points);
+    font.setBold(true);
+    font.setItalic(true);
+    return font;
+}
+
+QPalette LightYellow()
+{
+    QPalette palette(QColor(236, 236, 228), QColor(255, 255, 192));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, Focus);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+void OutlineControls(const QWidget& window)
+{
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        QPalette palette = control->palette();
+        if (control->inherits("QPushButton") || control->inherits("QLineEdit") || control->inherits("QListView") ||
+            control->inherits("QScrollBar"))
+            palette.setColor(QPalette::Window, QColor(176, 176, 140)); // a border is a darker shade of it
+        control->setPalette(palette);
+    }
+}
+
+QPalette OnWhite(const QColor& text)
+{
+    QPalette palette{QColor(Qt::white), QColor(Qt::white)};
+    palette.setColor(QPalette::WindowText, text);
+    return palette;
+}
+
+} // namespace looks

@@ -1,0 +1,135 @@
+#include "app/controls/text_box.h"
+
+#include "document/puzzle_file.h"
+#include "wordlist/limits.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QValidator>
+
+#include <algorithm>
+
+/// Every way of entering text passes the line edit's validator, so the rule is applied here.
+class TextValidator : public QValidator {
+public:
+    TextValidator(TextBox& box, const wordlist::TextRule& rule) : QValidator(&box), Box(box), Rule(rule) {}
+
+    State validate(QString& text, int& cursor) const override;
+
+    QString Admitted(const QString& text) const
+    {
+        return QString::fromStdU16String(Admit(text.toStdU16String(), static_cast<std::size_t>(Before.size()),
+                                               static_cast<std::size_t>(Replaced), Rule));
+    }
+
+    /// Takes the box as it stands, for the next edit, and what that would replace.
+    void Remember(qsizetype start, qsizetype replaced)
+    {
+        Before = Box.text();
+        Start = std::clamp<qsizetype>(start, 0, Before.size());
+        Replaced = std::min(replaced, Before.size() - Start);
+    }
+
+private:
+    TextBox& Box;
+    wordlist::TextRule Rule;
+    QString Before;         ///< the text as the last edit left it;
+    qsizetype Start = 0;    ///< an insertion takes the place
+    qsizetype Replaced = 0; ///< of so many characters
+};
+
+/// Invalid takes the whole edit back; a text that is changed here becomes the box's, without a history.
+QValidator::State TextValidator::validate(QString& text, int& cursor) const
+{
+    // Setting a text leaves nothing to undo, an edit always does; only undo leaves something to redo.
+    const bool edited = Box.isUndoAvailable() && !Box.isRedoAvailable();
+    const qsizetype length = text.size() - Before.size() + Replaced;
+    if (!edited || length <= 0 || !text.startsWith(Before.left(Start)) ||
+        !text.endsWith(Before.mid(Start + Replaced)))
+        return Acceptable;
+    const QString inserted = text.mid(Start, length);
+    const QString admitted = Admitted(inserted);
+    if (admitted.isEmpty())
+        return Invalid;
+    if (admitted != inserted) {
+        text.replace(Start, length, admitted);
+        cursor = static_cast<int>(Start + admitted.size());
+    }
+    return Acceptable;
+}
+
+TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
+    : QLineEdit(parent), Validator(new TextValidator(*this, rule))
+{
+    setMaxLength(static_cast<int>(document::MaxFileBytes)); // whatever a file brings; the rule bounds the user
+    setValidator(Validator);
+    const auto remember = [this] {
+        Validator->Remember(hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
+    };
+    connect(this, &QLineEdit::textChanged, this, remember);
+    connect(this, &QLineEdit::selectionChanged, this, remember);
+    connect(this, &QLineEdit::cursorPositionChanged, this, remember);
+}
+
+/// A character that the rule discards does not even reach the line edit, which would forget what it could redo.
+void TextBox::keyPressEvent(QKeyEvent* event)
+{
+    const QString typed = event->text();
+    if (typed.size() == 1 && typed.at(0).isPrint() && Validator->Admitted(typed).isEmpty())
+        event->accept();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+/// Composed text is told to the validator too late: the line edit reports its new place first.
+void TextBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (event->replacementLength() > 0)
+        Validator->Remember(cursorPosition() + event->replacementStart(), event->replacementLength());
+    QInputMethodEvent admitted(event->preeditString(), event->attributes());
+    const QString text = Validator->Admitted(event->commitString());
+    if (!text.isEmpty() || event->commitString().isEmpty())
+        admitted.setCommitString(text, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&admitted);
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool clicks = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
+    if (clicks && rect().contains(event->position().toPoint()))
+        emit Clicked();
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse)
+        emit Clicked();
+    QLineEdit::contextMenuEvent(event);
+}
+
+WordBox::WordBox(QWidget* parent)
+    : TextBox({wordlist::TakesInWord, static_cast<std::size_t>(wordlist::MaxWordLength)}, parent)
+{
+}
+
+void WordBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool control = event->modifiers().testFlag(Qt::ControlModifier) &&
+                         !event->modifiers().testFlag(Qt::AltModifier); // both together are AltGr
+    if (control && event->key() >= Qt::Key_At && event->key() <= Qt::Key_Underscore)
+        event->ignore(); // for the window
+    else
+        TextBox::keyPressEvent(event);
+}
+
+void WordBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* action : menu->actions())
+        action->setText(action->text().section('\t', 0, 0)); // its keys do nothing here
+    menu->popup(event->globalPos());
+}

@@ -1,0 +1,34 @@
+#include "app/controls/title_label.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double SmallestPoints = 7;
+constexpr qsizetype LongestShown = 300; ///< characters; more has no room in any title's label
+
+/// Lines end between words, or within a word that is wider than the label.
+bool Fits(QPainter& painter, const QRect& room, const QString& text, const QTextOption& lines)
+{
+    const QRectF needed = painter.boundingRect(room, text, lines);
+    return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
+} // namespace
+
+void TitleLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QTextOption lines(alignment());
+    lines.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QString shown = text().left(LongestShown);
+    QFont smaller = font();
+    while (smaller.pointSizeF() > SmallestPoints && !Fits(painter, rect(), shown, lines)) {
+        smaller.setPointSizeF(smaller.pointSizeF() - 0.25);
+        painter.setFont(smaller);
+    }
+    while (!shown.isEmpty() && !Fits(painter, rect(), shown, lines))
+        shown = shown.chopped(shown.endsWith(u'…') ? 2 : 1) + u'…';
+    setToolTip(shown == text() ? QString() : QString("<span>%1</span>").arg(text().toHtmlEscaped()));
+    painter.drawText(rect(), shown, lines);
+}

@@ -1,0 +1,29 @@
+#include "app/controls/toolbars.h"
+
+#include "app/desktop/dialogs.h"
+#include "app/controls/icons.h"
+
+#include <QLayout>
+
+QToolBar* MakeToolbar(const char* name, const QString& accessibleName, const std::vector<ToolbarButton>& buttons,
+                      QWidget& client, const std::function<void(int index)>& clicked)
+{
+    auto* toolbar = new QToolBar(&client);
+    toolbar->setObjectName(name);
+    toolbar->setAccessibleName(accessibleName);
+    toolbar->layout()->setContentsMargins({}); // room for icons of their full size
+    toolbar->setIconSize(QSize(16, 16));
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (const ToolbarButton& button : buttons) {
+        const QString key = button.key;
+        QAction* action = toolbar->addAction(icons::ForToolbar(key.toLower()), button.tooltip);
+        action->setObjectName(key);
+        toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // the keyboard reaches it too
+        QObject::connect(action, &QAction::triggered, toolbar,
+                         [clicked, index = static_cast<int>(toolbar->actions().size())] {
+                             if (CommandsMayStart())
+                                 clicked(index);
+                         });
+    }
+    return toolbar;
+}

@@ -1,0 +1,115 @@
+#include "app/controls/word_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Columns = 4;
+constexpr int Rows = 10;
+
+} // namespace
+
+WordList::WordList(QWidget* parent) : QListWidget(parent)
+{
+    setWrapping(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportMargins(1, 1, 1, 1); // at fractional scales the entries' ground would cover the border
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+}
+
+std::vector<std::u16string> WordList::Words() const
+{
+    std::vector<std::u16string> words;
+    for (int i = 0; i < count(); ++i)
+        words.push_back(item(i)->text().toStdU16String());
+    return words;
+}
+
+void WordList::Insert(int position, const QString& word)
+{
+    auto* entry = new QListWidgetItem(word);
+    // A word may be cut short by its column. The tags make sure of a rich text, which shows the escaped one.
+    entry->setToolTip(QString("<span>%1</span>").arg(word.toHtmlEscaped()));
+    entry->setSizeHint(gridSize());
+    insertItem(position, entry);
+}
+
+void WordList::Remove(int position)
+{
+    delete takeItem(position);
+}
+
+void WordList::Replace(int position, const QString& word)
+{
+    const int current = currentRow();
+    Remove(position);
+    Insert(position, word);
+    setCurrentRow(current, QItemSelectionModel::NoUpdate);
+}
+
+int WordList::SelectedPosition() const
+{
+    const auto selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+/// Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
+void WordList::updateGeometries()
+{
+    setHorizontalScrollBarPolicy(count() > Columns * Rows ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    QListWidget::updateGeometries();
+}
+
+void WordList::resizeEvent(QResizeEvent* event)
+{
+    QListWidget::resizeEvent(event);
+    // A column that fills the height to the last pixel would lose its last row to the next one.
+    setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
+    for (int i = 0; i < count(); ++i)
+        item(i)->setSizeHint(gridSize()); // else it stands at its cell's top
+}
+
+void WordList::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        Choose(row(itemAt(event->position().toPoint())));
+}
+
+void WordList::keyPressEvent(QKeyEvent* event)
+{
+    const bool space = event->key() == Qt::Key_Space;
+    const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown; // arrows among them
+    if (!space)
+        QListWidget::keyPressEvent(event);
+    if (space || (moves && !event->modifiers().testFlag(Qt::ControlModifier)))
+        Choose(currentRow());
+}
+
+/// A letter leads to the next entry that begins with it.
+void WordList::keyboardSearch(const QString& search)
+{
+    const QModelIndex next = model()->index((currentRow() + 1) % std::max(count(), 1), 0);
+    const auto found = model()->match(next, Qt::DisplayRole, search, 1, Qt::MatchStartsWith | Qt::MatchWrap);
+    Choose(found.isEmpty() ? -1 : found.first().row());
+}
+
+void WordList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListWidget::selectionChanged(selected, deselected);
+    if (!selected.isEmpty())
+        emit Chosen(SelectedPosition());
+}
+
+void WordList::Choose(int position)
+{
+    const bool again = position == SelectedPosition();
+    if (position < 0)
+        return;
+    setCurrentRow(position, QItemSelectionModel::ClearAndSelect);
+    if (again)
+        emit Chosen(position);
+}

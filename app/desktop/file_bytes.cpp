@@ -1,0 +1,60 @@
+#include "app/desktop/file_bytes.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace file_bytes {
+
+namespace {
+
+/// Where a chain of links ends, be there a file or not; a circle of links ends at one of them.
+QString EndOfLinks(const QString& path)
+{
+    constexpr int LongestChain = 40; // as desktops have it
+    QFileInfo there(path);
+    for (int links = 0; there.isSymLink() && links < LongestChain; ++links)
+        there.setFile(there.symLinkTarget());
+    return there.filePath();
+}
+
+bool Overwrite(QFile& file, const QByteArray& bytes)
+{
+    return file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size());
+}
+
+/// Into a file that is there. What it held is put back should the new contents find no room: its own room it has.
+bool WriteInPlace(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
+        return false;
+    const QByteArray earlier = file.readAll();
+    return Overwrite(file, bytes) || (Overwrite(file, earlier), false);
+}
+
+} // namespace
+
+std::string Read(const QString& path, std::size_t most)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    return file.read(static_cast<qint64>(most)).toStdString();
+}
+
+bool Save(const QString& path, const std::string& bytes)
+{
+    const QString target = EndOfLinks(path);
+    const QFileInfo there(target);
+    if (there.isSymLink() || (there.exists() && !there.isFile()))
+        return false;
+    const QByteArray contents = QByteArray::fromStdString(bytes);
+    QSaveFile file(target);
+    // Asked for outright: the flush within commit() may fail unnoticed, and then puts an empty file in place.
+    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
+        return true;
+    const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
+    return refused && there.exists() && WriteInPlace(target, contents);
+}
+
+} // namespace file_bytes

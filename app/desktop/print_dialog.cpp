@@ -1,0 +1,50 @@
+#include "app/desktop/print_dialog.h"
+
+#include "app/desktop/folders.h"
+#include "app/desktop/file_dialog.h"
+#include "document/file_name.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+namespace {
+
+const QString DialogName = "PrinterDialog";
+
+QString ProposedPdf(const QString& title)
+{
+    return UsersDocuments().filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
+                                      ".pdf");
+}
+
+#ifdef Q_OS_WIN
+/// Where there is no printer: this desktop's print dialog knows nothing else.
+bool AskForPdf(QPrinter& printer, QWidget& owner)
+{
+    const QString path = FileDialog::Ask(QFileDialog::AcceptSave, {{"PDF Files (*.pdf)", "*.pdf"}},
+                                               UsersDocuments(), ProposedPdf(printer.docName()), &owner, DialogName);
+    printer.setOutputFileName(path);
+    printer.setOutputFormat(QPrinter::PdfFormat); // whatever the name
+    return !path.isEmpty();
+}
+#endif
+
+} // namespace
+
+bool RunPrintDialog(QPrinter& printer, QWidget& owner)
+{
+#ifdef Q_OS_WIN
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        return AskForPdf(printer, owner);
+#else
+    printer.setOutputFileName(ProposedPdf(printer.docName()));
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        printer.setOutputFormat(QPrinter::NativeFormat); // the file is only proposed
+#endif
+    QPrintDialog dialog(&printer, &owner);
+    dialog.setObjectName(DialogName);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
+    return dialog.exec() == QDialog::Accepted;
+}
