@@ -57,8 +57,8 @@ void frmMain::DrawToPictureBox()
 /// Prints the puzzle that is shown on one page. Cancelling and failing end it quietly.
 void frmMain::Print_Puzzle()
 {
-    PagePaper paper(lblBigTitle->text());
-    if (!RunPrintDialog(paper.Printer(), *Puzzle))
-        return;
-    view::PrintPage(paper, lblBigTitle->text().toStdU16String(), lstWordlist->Words(), Workspace);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(lblBigTitle->text());
+    if (RunPrintDialog(printer, *Puzzle))
+        PrintPage(printer, lblBigTitle->text(), lstWordlist->Words(), Workspace);
 }

@@ -72,9 +72,9 @@ void PrintPuzzle(benchmark::State& state)
     workspace.LoadWordsArray(words);
     workspace.LoadPuzzleArray();
     for (auto _ : state) {
-        PagePaper paper("Title");
-        paper.Printer().setOutputFileName(folder.filePath("page.pdf"));
-        if (!view::PrintPage(paper, u"Title", words, workspace))
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(folder.filePath("page.pdf"));
+        if (!PrintPage(printer, "Title", words, workspace))
             state.SkipWithError("not printed");
     }
 }

@@ -1,6 +1,6 @@
 #include "document/character_set.h"
-#include "tests/support/page_recorder.h"
 #include "tests/support/puzzles.h"
+#include "view/printed_page.h"
 #include "wordlist/letters.h"
 
 #include <cmath>
@@ -31,12 +31,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (char16_t& character : word)
             character = static_cast<unsigned char>(wordlist::GridLetter(character).value_or(generator::Blank));
     const std::string fault = FaultOf(Solved(workspace, spelt));
-    Recorder page;
+    const view::PageMetrics printer{11906, [](const view::PageFont& font) { return font.size; },
+                                    [](const auto& font, auto text) { return font.size * 10 * double(text.size()); }};
+    const view::Page page = view::LayOutPage(printer, u"Title", words, workspace);
     bool whole = fault.empty() || fault.starts_with("undecided"); // lists of one letter puzzle the finder
-    whole =
-        whole && view::PrintPage(page, u"Title", words, workspace) &&
-        page.Texts.size() == 1 + words.size() + static_cast<std::size_t>(workspace.PuzzleSize * workspace.PuzzleSize);
-    for (const auto& text : page.Texts)
+    whole = whole && page.texts.size() ==
+                         1 + words.size() + static_cast<std::size_t>(workspace.PuzzleSize * workspace.PuzzleSize);
+    for (const auto& text : page.texts)
         whole = whole && std::isfinite(text.x) && text.y >= 720 && text.y < 14'400;
     if (!whole)
         std::abort();

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -82,76 +81,58 @@ class PageTest : public QObject {
 private slots:
     void PrintsWhereItShould_data()
     {
-        QTest::addColumn<int>("size");
         QTest::addColumn<QPageSize::PageSizeId>("paper");
-        for (const int size : {10, 15, 16, 17, 21, 25, 30})
-            for (const auto paper : {QPageSize::A4, QPageSize::Letter, QPageSize::A5})
-                QTest::addRow("%d, paper %d", size, paper) << size << paper;
+        QTest::addColumn<int>("size");
+        QTest::newRow("A4") << QPageSize::A4 << 16;
+        QTest::newRow("Letter, on its side") << QPageSize::Letter << 21;
+        QTest::newRow("A5") << QPageSize::A5 << 10;
     }
 
+    /// The layout's own test has every number: here what a reader finds is laid out once more, with the fonts'
+    /// measures.
     void PrintsWhereItShould()
     {
-        QFETCH(int, size);
         QFETCH(QPageSize::PageSizeId, paper);
-        constexpr std::array<int, 5> Counts{0, 1, 10, 11, 40};
-        const int words = Counts.at(static_cast<std::size_t>(size + paper) % Counts.size());
+        QFETCH(int, size);
         generator::RandomSource random = FixedRandom(8);
-        const Words list = RandomWords(random, words, 7);
+        const Words list = RandomWords(random, 11, 7);
         generator::PuzzleWorkspace grid(random);
         grid.PuzzleSize = size;
         grid.FillPuzzle();
         const QTemporaryDir folder;
         const QString path = folder.filePath("page.pdf");
-        PagePaper device("Title");
-        device.Printer().setPageSize(QPageSize(paper));
-        device.Printer().setPageOrientation(size % 2 == 0 ? QPageLayout::Portrait : QPageLayout::Landscape);
-        device.Printer().setOutputFileName(path);
-        QVERIFY(view::PrintPage(device, u"Animals", list, grid));
-        device.Printer().setOutputFileName("/dev/null");
-        QVERIFY(!device.EndDocument()); // it is no file
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setPageSize(QPageSize(paper));
+        printer.setPageOrientation(size == 21 ? QPageLayout::Landscape : QPageLayout::Portrait);
+        printer.setOutputFileName(path);
+        QVERIFY(PrintPage(printer, "Animals", list, grid));
+        printer.setOutputFileName("/dev/null");
+        QVERIFY(!PrintPage(printer, "Animals", list, grid)); // it is no file
 
         int pages = 0;
         double width = 0;
         double height = 0;
         auto found = ReadBack(QFileInfo(path), pages, width, height);
-        QVERIFY(width < height); // upright
+        QVERIFY(pages == 1 && width < height); // upright
         const double scale = view::ScaleForSheet(width, height);
         QCOMPARE(scale < 1, paper == QPageSize::A5);
-        width /= scale;
-        for (Placed& placed : found)
-            for (double* place : {&placed.left, &placed.right, &placed.top})
-                *place /= scale;
         ShowsTheBox(QFileInfo(path), scale);
-        QCOMPARE(pages, 1);
-        QCOMPARE(found.size(), static_cast<std::size_t>(1 + words + size * size));
-        // The reader has its own order: what counts is that each text stands where it should.
-        const auto at = [&found](const QString& text, double left, double top) {
-            return std::ranges::find_if(found, [&](const Placed& placed) {
-                return placed.text == text && std::abs(placed.left - left) <= 0.5 &&
-                       std::abs(placed.top - top) <= 0.5;
+        QCOMPARE(found.size(), 1 + list.size() + static_cast<std::size_t>(size * size));
+        const auto stands = [&](const std::u16string& text, double left, double top) {
+            return std::ranges::any_of(found, [&](const Placed& placed) {
+                return placed.text == QString::fromStdU16String(text) &&
+                       std::abs(placed.left / scale - left) <= 0.5 && std::abs(placed.top / scale - top) <= 0.5;
             });
         };
-        const auto& title = found.front();
-        QCOMPARE(title.text, "Animals");
-        QVERIFY(std::abs((title.left + title.right) / 2 - width / 2) <= 0.5 && std::abs(title.top - 720) <= 0.5);
-        QVERIFY(std::abs(title.right - title.left - 3446 * 0.52) <=
-                1); // in thousandths of 26 points, bold and italic
-        double column = 720;
-        double widest = 0;
-        for (int i = 0; i < words; ++i) {
-            if (i > 0 && i % 10 == 0)
-                column += std::exchange(widest, 0) + 1080;
-            const QString text = QString::fromStdU16String(list[static_cast<std::size_t>(i)]);
-            const auto word = at(text, column, 1800 + i % 10 * 330);
-            QVERIFY2(word != found.end(), qPrintable(text));
-            widest = std::max(widest, std::nearbyint(word->right - word->left));
-        }
+        const double titleWidth = 3446 * 0.52; // in thousandths of 26 points, bold and italic
+        QVERIFY(stands(u"Animals", (width / scale - titleWidth) / 2, 720));
+        for (std::size_t i = 0; i < 10; ++i)
+            QVERIFY(stands(list[i], 720, 1800 + static_cast<double>(i) * 330));
         const double step = size < 16 ? 560 : std::round(8640.0 / size);
-        const double gridLeft = std::nearbyint((width - size * step) / 2);
-        for (int cell = 0; cell < size * size; ++cell) {
-            const QString letter(QLatin1Char(grid.PuzzleArray(cell / size + 1, cell % size + 1)));
-            QVERIFY(at(letter, gridLeft + cell % size * step, 5718 + cell / size * step) != found.end());
-        }
+        const double left = std::nearbyint((width / scale - size * step) / 2);
+        for (const int cell : {0, size - 1, size * size - 1})
+            QVERIFY(stands({static_cast<char16_t>(grid.PuzzleArray(cell / size + 1, cell % size + 1))},
+                           left + cell % size * step, 5718 + cell / size * step));
     }
 };
 

@@ -1,13 +1,12 @@
-#include "tests/support/page_recorder.h"
 #include "tests/support/puzzles.h"
 #include "view/grid_drawing.h"
 #include "view/printed_page.h"
-#include "view/rounding.h"
 
 #include <QtTest>
 
-#include <algorithm>
-#include <map>
+#include <array>
+#include <cmath>
+#include <set>
 
 namespace {
 
@@ -19,27 +18,12 @@ generator::PuzzleWorkspace Grid(int size)
     return workspace;
 }
 
-/// The page of a grid of `size`: `left` and `last` are the places of its first column and its last row, `sizes` those
-/// of the font that are tried for it.
-void ComposesGrid(int size, double step, double left, double last, std::initializer_list<const char*> sizes)
+/// A printer that is exact, or rounds sizes to whole points. Every character is half as wide as its font is high, and
+/// a little more, for fractions.
+view::PageMetrics Printer(double width = 11906, bool wholePoints = false)
 {
-    Recorder printer;
-    const auto grid = Grid(size);
-    QVERIFY(view::PrintPage(printer, u"T", {}, grid));
-    QCOMPARE(printer.Ended, 1);
-    std::vector<std::string> fonts{"Times New Roman 26 bold italic", "Times New Roman 11"};
-    for (const char* points : sizes)
-        fonts.push_back(std::string("Courier New ") + points);
-    QCOMPARE(printer.Fonts, fonts);
-    QCOMPARE(printer.Texts.size(), static_cast<std::size_t>(size * size + 1));
-    for (int cell = 0; cell < size * size; ++cell) {
-        const auto& text = printer.Texts.at(static_cast<std::size_t>(cell + 1));
-        QCOMPARE(text.x, left + cell % size * step);
-        QCOMPARE(text.y, 5718 + cell / size * step);
-        QCOMPARE(text.text,
-                 std::u16string{static_cast<char16_t>(grid.PuzzleArray(cell / size + 1, cell % size + 1))});
-    }
-    QCOMPARE(printer.Texts.back().y, last);
+    return {width, [wholePoints](const auto& font) { return wholePoints ? std::round(font.size) : font.size; },
+            [](const auto& font, auto text) { return static_cast<double>(text.size()) * (font.size * 10 + 0.25); }};
 }
 
 } // namespace
@@ -48,14 +32,6 @@ class ViewTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void RoundsHalvesToEven()
-    {
-        const std::map<double, double> rounded{{0.5, 0},   {1.5, 2}, {2.5, 2},   {-0.5, 0}, {-1.5, -2},
-                                               {-2.5, -2}, {1.4, 1}, {-1.4, -1}, {1.6, 2},  {2344.5, 2344}};
-        for (const auto& [value, whole] : rounded)
-            QCOMPARE(view::RoundHalfToEven(value), whole);
-    }
-
     void LaysOutTheGrid()
     {
         const auto at = [](const generator::PuzzleWorkspace& grid, int row, int column) {
@@ -78,48 +54,60 @@ private slots:
         QVERIFY(view::LayOutGrid(generator::PuzzleWorkspace(), 7815).empty());
     }
 
-    void ComposesTheGrid()
+    /// The grid on the page: the font's size, the step from cell to cell, the first column's and the last row's
+    /// place. Halves of the margins go to the even neighbour: (11906 - 8631) / 2 = 1637.5.
+    void LaysOutThePagesGrid()
     {
-        // Halves of the margins go to the even neighbour: (11906 - 8631) / 2 = 1637.5.
-        ComposesGrid(10, 560, 3153, 10758, {"21.6", "14"});
-        ComposesGrid(11, 560, 2873, 11318, {"19.625", "14"});
-        ComposesGrid(15, 560, 1753, 13558, {"14.4", "14"});
-        ComposesGrid(16, 540, 1633, 13818, {"13.5"});
-        ComposesGrid(17, 508, 1635, 13846, {"12.7"});
-        ComposesGrid(21, 411, 1638, 13938, {"10.275"});
-        ComposesGrid(25, 346, 1628, 14022, {"8.65"});
-        ComposesGrid(30, 288, 1633, 14070, {"7.2"});
+        struct Row {
+            int size;
+            double points, step, left, last;
+        };
+        for (const auto& [size, points, step, left, last] :
+             {Row{10, 14, 560, 3153, 10758}, Row{11, 14, 560, 2873, 11318}, Row{15, 14, 560, 1753, 13558},
+              Row{16, 13.5, 540, 1633, 13818}, Row{17, 12.7, 508, 1635, 13846}, Row{21, 10.275, 411, 1638, 13938},
+              Row{25, 8.65, 346, 1628, 14022}, Row{30, 7.2, 288, 1633, 14070}}) {
+            const auto grid = Grid(size);
+            const auto page = view::LayOutPage(Printer(), u"T", {}, grid);
+            QCOMPARE(page.texts.size(), static_cast<std::size_t>(size * size + 1));
+            for (int cell = 0; cell < size * size; ++cell) {
+                const auto& text = page.texts.at(static_cast<std::size_t>(cell + 1));
+                QVERIFY(text.x == left + cell % size * step && text.y == 5718 + cell / size * step);
+                QCOMPARE(text.text, std::u16string(1, static_cast<char16_t>(
+                                                          grid.PuzzleArray(cell / size + 1, cell % size + 1))));
+            }
+            QCOMPARE(page.texts.back().y, last);
+            QCOMPARE(static_cast<float>(page.texts.back().font.size), static_cast<float>(points));
+        }
+        // 14.4 pt is taken as 14: no cap, the step stays.
+        const auto rounded = view::LayOutPage(Printer(11906, true), u"T", {}, Grid(15));
+        QCOMPARE(rounded.texts[2].x - rounded.texts[1].x, 576.0);
     }
 
-    void ComposesTitleWordsAndBox()
+    void LaysOutTitleWordsAndBox()
     {
-        for (const std::size_t words : {0, 1, 10, 11, 40})
-            for (const double width : {11906.0, 12240.0, 300.0}) {
-                Recorder printer;
-                printer.Width = width;
-                printer.WholePoints = width == 12240.0;
-                Words list;
-                for (std::size_t i = 0; i < words; ++i)
-                    list.emplace_back(i % 20 + 1, u'W');
-                QVERIFY(view::PrintPage(printer, u"Animals", list, Grid(10)));
-                QCOMPARE(printer.Texts[0].x, width / 2 - 7 * 260.25 / 2);
-                QCOMPARE(printer.Texts[0].y, 720.0);
-                // The widest words of the first three columns have 10, 20 and 10 letters of 110.25 twips.
-                const std::array<double, 4> columns{720, 720 + 1102 + 1080, 2902 + 2205 + 1080, 6187 + 1102 + 1080};
-                for (std::size_t i = 0; i < words; ++i) {
-                    const auto& text = printer.Texts.at(i + 1);
-                    QCOMPARE(text.text, list[i]);
-                    QCOMPARE(text.x, columns.at(i / 10));
-                    QCOMPARE(text.y, 1800.0 + static_cast<double>(i % 10) * 330);
-                }
-                const double right = width - 504;
-                const double bottom = 5214.3;
-                const std::vector<std::array<double, 4>> box{{504, 1584, right, 1584},
-                                                             {right, 1584, right, bottom},
-                                                             {right, bottom, 504, bottom},
-                                                             {504, bottom, 504, 1584}};
-                QCOMPARE(printer.Lines, box);
+        Words list;
+        for (std::size_t i = 0; i < 40; ++i)
+            list.emplace_back(i % 20 + 1, u'W');
+        for (const double width : {11906.0, 12240.0, 300.0}) {
+            const auto page = view::LayOutPage(Printer(width, width == 12240), u"Animals", list, Grid(10));
+            QCOMPARE(page.texts[0].x, width / 2 - 7 * 260.25 / 2);
+            QVERIFY(page.texts[0].y == 720 && page.texts[0].text == u"Animals");
+            QVERIFY(page.texts[0].font == (view::PageFont{page.texts[0].font.name, 26, true, true}));
+            // The widest words of the first three columns have 10, 20 and 10 letters of 110.25 twips.
+            const std::array<double, 4> columns{720, 720 + 1102 + 1080, 2902 + 2205 + 1080, 6187 + 1102 + 1080};
+            for (std::size_t i = 0; i < list.size(); ++i) {
+                const auto& text = page.texts.at(i + 1);
+                QVERIFY(text.text == list[i] && text.font == (view::PageFont{text.font.name, 11}));
+                QCOMPARE(text.x, columns.at(i / 10));
+                QCOMPARE(text.y, 1800.0 + static_cast<double>(i % 10) * 330);
             }
+            const auto& [left, top, right, bottom] = page.box;
+            QVERIFY(left == 504 && top == 1584 && right == width - 504 && bottom == 5214.3);
+        }
+        std::set<std::u16string> names;
+        for (const auto& text : view::LayOutPage(Printer(), u"T", list, Grid(10)).texts)
+            names.insert(text.font.name);
+        QCOMPARE(names, (std::set<std::u16string>{u"Courier New", u"Times New Roman"}));
     }
 
     void FitsEverySheet()
@@ -127,29 +115,6 @@ private slots:
         for (const auto& [width, height, scale] : std::initializer_list<std::array<double, 3>>{
                  {11900, 16840, 1}, {12240, 15840, 1}, {16840, 23820, 1}, {8316, 11900, 0.7}, {23820, 7910, 0.5}})
             QCOMPARE(view::ScaleForSheet(width, height), scale);
-    }
-
-    void FollowsASizeThatThePrinterRounds()
-    {
-        Recorder printer;
-        printer.WholePoints = true;
-        QVERIFY(view::PrintPage(printer, u"T", {}, Grid(15))); // 14.4 pt is taken as 14: no cap, the step stays
-        QCOMPARE(printer.Fonts.size(), 3U);
-        QCOMPARE(printer.Texts[2].x - printer.Texts[1].x, 576.0);
-    }
-
-    void StopsAtTheFirstFailure()
-    {
-        const Words words(11, u"WORD");
-        Recorder whole;
-        QVERIFY(view::PrintPage(whole, u"T", words, Grid(10)));
-        for (int call = 1; call <= whole.Calls; ++call) {
-            Recorder printer;
-            printer.CallsUntilFailure = call;
-            QVERIFY(!view::PrintPage(printer, u"T", words, Grid(10)));
-            QCOMPARE(printer.Calls, call);
-            QCOMPARE(printer.Ended, call == whole.Calls ? 1 : 0);
-        }
     }
 };
 

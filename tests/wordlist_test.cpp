@@ -1,8 +1,8 @@
 #include "tests/support/puzzles.h"
-#include "wordlist/text_rule.h"
 #include "wordlist/letters.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
+#include "wordlist/text_rule.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "view/grid_drawing.h"
 
-#include "view/rounding.h"
+#include <cmath>
 
 namespace view {
 
@@ -10,7 +10,7 @@ std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace,
     std::vector<DrawnLetter> letters;
     for (int row = 1; row <= size; ++row) {
         const double spacing = static_cast<double>(surfaceWidth) / size * 0.8;
-        const double y = RoundHalfToEven(row * spacing);
+        const double y = std::nearbyint(row * spacing); // halves go to the even neighbour
         for (int column = 1; column <= size; ++column) {
             const auto x = static_cast<float>(column * spacing);
             letters.push_back({workspace.PuzzleArray(row, column), x, y});

@@ -1,9 +1,7 @@
 #include "view/printed_page.h"
 
-#include "view/rounding.h"
-
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 namespace view {
 
@@ -22,121 +20,64 @@ constexpr double GridGap = 288; ///< from the lines of the box to the grid
 constexpr double GridWidth = 8640;
 constexpr double MaxGridFontSize = 14;
 
-/// One page in the making. Each procedure does its share of the page in order and tells whether the printer
-/// went along.
-class Page {
-public:
-    Page(PagePrinter& printer, std::span<const std::u16string> words, const generator::PuzzleWorkspace& workspace)
-        : Printer(printer), Words(words), Workspace(workspace)
-    {
-    }
-
-    bool Title(std::u16string_view title);
-    bool WordList();
-    bool Box();
-    bool Grid();
-
-private:
-    std::optional<double> WidestOf(std::span<const std::u16string> column);
-    bool SetGridFont();
-
-    PagePrinter& Printer;
-    std::span<const std::u16string> Words;
-    const generator::PuzzleWorkspace& Workspace;
-    double Width = 0;    ///< of the sheet
-    double LineStep = 0; ///< of the word list
-    double CellStep = 0; ///< of the grid
-};
-
-bool Page::Title(std::u16string_view title)
+void LayOutTitle(Page& page, const PageMetrics& printer, std::u16string_view title)
 {
-    if (!Printer.SetFont({u"Times New Roman", 26, true, true}))
-        return false;
-    const auto pageWidth = Printer.PageWidth();
-    const auto titleWidth = pageWidth ? Printer.Measure(title) : std::nullopt;
-    if (!titleWidth)
-        return false;
-    Width = *pageWidth;
-    return Printer.Write({Width / 2 - *titleWidth / 2, TitleTop}, title);
+    const PageFont font{u"Times New Roman", 26, true, true};
+    page.texts.push_back(
+        {font, printer.width / 2 - printer.textWidth(font, title) / 2, TitleTop, std::u16string(title)});
 }
 
-bool Page::WordList()
+/// A column starts to the right of the widest word of the one before.
+void LayOutWords(Page& page, const PageMetrics& printer, const PageFont& font, double lineStep,
+                 std::span<const std::u16string> words)
 {
-    const auto size = Printer.SetFont({u"Times New Roman", 11, false, false});
-    if (!size)
-        return false;
-    LineStep = RoundHalfToEven(*size * 1.5 * TwipsPerPoint);
     double x = WordsLeft;
-    for (std::size_t i = 0; i < Words.size(); ++i) {
+    double widest = 0;
+    for (std::size_t i = 0; i < words.size(); ++i) {
         const std::size_t line = i % WordsPerColumn;
         if (line == 0 && i > 0) {
-            const auto widest = WidestOf(Words.subspan(i - WordsPerColumn, WordsPerColumn));
-            if (!widest)
-                return false;
-            x += *widest + ColumnGap;
+            x += widest + ColumnGap;
+            widest = 0;
         }
-        if (!Printer.Write({x, WordsTop + static_cast<double>(line) * LineStep}, Words[i]))
-            return false;
+        page.texts.push_back({font, x, WordsTop + static_cast<double>(line) * lineStep, words[i]});
+        widest = std::max(widest, std::nearbyint(printer.textWidth(font, words[i])));
     }
-    return true;
 }
 
-/// The width of the widest word in whole twips.
-std::optional<double> Page::WidestOf(std::span<const std::u16string> column)
+/// Letters of half a cell's step, but no larger than MaxGridFontSize: the step then follows the size in effect.
+void LayOutGrid(Page& page, const PageMetrics& printer, double lineStep, const generator::PuzzleWorkspace& workspace)
 {
-    double widest = 0;
-    for (const std::u16string& word : column) {
-        const auto width = Printer.Measure(word);
-        if (!width)
-            return std::nullopt;
-        widest = std::max(widest, RoundHalfToEven(*width));
+    const int size = workspace.PuzzleSize;
+    double step = std::nearbyint(GridWidth / size);
+    PageFont font{u"Courier New", static_cast<float>(step / 2 / TwipsPerPoint)};
+    if (printer.size(font) > MaxGridFontSize) {
+        font.size = MaxGridFontSize;
+        step = std::nearbyint(printer.size(font) * 2 * TwipsPerPoint);
     }
-    return widest;
-}
-
-bool Page::Box()
-{
-    const double right = Width - BoxMargin;
-    const double bottom = BoxTop + BoxLines * LineStep + 0.3;
-    const std::array<PagePoint, 5> corners{
-        {{BoxMargin, BoxTop}, {right, BoxTop}, {right, bottom}, {BoxMargin, bottom}, {BoxMargin, BoxTop}}};
-    for (std::size_t side = 0; side + 1 < corners.size(); ++side)
-        if (!Printer.DrawLine(corners.at(side), corners.at(side + 1)))
-            return false;
-    return true;
-}
-
-/// Sets the grid's font and step: letters of half a step, but no larger than MaxGridFontSize.
-bool Page::SetGridFont()
-{
-    CellStep = RoundHalfToEven(GridWidth / Workspace.PuzzleSize);
-    const auto asked = static_cast<float>(CellStep / 2 / TwipsPerPoint);
-    auto size = Printer.SetFont({u"Courier New", asked, false, false});
-    if (size && *size > MaxGridFontSize) {
-        size = Printer.SetFont({u"Courier New", MaxGridFontSize, false, false});
-        if (size)
-            CellStep = RoundHalfToEven(*size * 2 * TwipsPerPoint);
-    }
-    return size.has_value();
-}
-
-bool Page::Grid()
-{
-    if (!SetGridFont())
-        return false;
-    const int size = Workspace.PuzzleSize;
-    const double left = RoundHalfToEven((Width - size * CellStep) / 2);
-    const double oneRowAbove = RoundHalfToEven(BoxLines * LineStep + WordsTop + GridGap - CellStep);
+    const double left = std::nearbyint((printer.width - size * step) / 2);
+    const double oneRowAbove = std::nearbyint(BoxLines * lineStep + WordsTop + GridGap - step);
     for (int row = 1; row <= size; ++row)
         for (int column = 1; column <= size; ++column) {
-            const char16_t letter = static_cast<unsigned char>(Workspace.PuzzleArray(row, column));
-            if (!Printer.Write({left + (column - 1) * CellStep, oneRowAbove + row * CellStep}, {&letter, 1}))
-                return false;
+            const char16_t letter = static_cast<unsigned char>(workspace.PuzzleArray(row, column));
+            page.texts.push_back({font, left + (column - 1) * step, oneRowAbove + row * step, {letter}});
         }
-    return true;
 }
 
 } // namespace
+
+// Halves are rounded to the even neighbour: std::nearbyint follows the rounding mode in force, which is that one
+// unless a program changes it, and nothing here does.
+Page LayOutPage(const PageMetrics& printer, std::u16string_view title, std::span<const std::u16string> words,
+                const generator::PuzzleWorkspace& workspace)
+{
+    const PageFont wordFont{u"Times New Roman", 11};
+    const double lineStep = std::nearbyint(printer.size(wordFont) * 1.5 * TwipsPerPoint);
+    Page page{{}, {BoxMargin, BoxTop, printer.width - BoxMargin, BoxTop + BoxLines * lineStep + 0.3}};
+    LayOutTitle(page, printer, title);
+    LayOutWords(page, printer, wordFont, lineStep, words);
+    LayOutGrid(page, printer, lineStep, workspace);
+    return page;
+}
 
 double ScaleForSheet(double width, double height)
 {
@@ -144,13 +85,6 @@ double ScaleForSheet(double width, double height)
     constexpr double MadeForWidth = 11880;
     constexpr double MadeForHeight = 15820;
     return std::min({1.0, width / MadeForWidth, height / MadeForHeight});
-}
-
-bool PrintPage(PagePrinter& printer, std::u16string_view title, std::span<const std::u16string> words,
-               const generator::PuzzleWorkspace& workspace)
-{
-    Page page(printer, words, workspace);
-    return page.Title(title) && page.WordList() && page.Box() && page.Grid() && printer.EndDocument();
 }
 
 } // namespace view

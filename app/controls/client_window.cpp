@@ -1,8 +1,8 @@
 #include "app/controls/client_window.h"
 
-#include "app/desktop/dialogs.h"
-#include "app/controls/looks.h"
 #include "app/controls/focus_ring.h"
+#include "app/controls/looks.h"
+#include "app/desktop/dialogs.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -63,7 +63,8 @@ void ClientWindow::FitToScreen()
     setMinimumSize(NormalSize);
     if (!MayGrow())
         setMaximumSize(NormalSize);
-    else if (isVisible()) { // its border stays fixed all the same: X11's window managers change the size in these steps
+    else if (isVisible()) { // its border stays fixed all the same: X11's window managers change the size in these
+                            // steps
         setBaseSize(NormalSize);
         setSizeIncrement(10'000, 10'000); // the toolkit passes it on for a window that is there
     }

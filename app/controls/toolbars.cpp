@@ -1,7 +1,7 @@
 #include "app/controls/toolbars.h"
 
-#include "app/desktop/dialogs.h"
 #include "app/controls/icons.h"
+#include "app/desktop/dialogs.h"
 
 #include <QLayout>
 

@@ -18,8 +18,8 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-FileDialog::FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder,
-                                   const QString& name, QWidget* owner)
+FileDialog::FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
+                       QWidget* owner)
     : QFileDialog(owner)
 {
     setAcceptMode(mode);
@@ -36,7 +36,7 @@ FileDialog::FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir
 }
 
 QString FileDialog::Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-                              QWidget* owner, const QString& objectName)
+                        QWidget* owner, const QString& objectName)
 {
 #ifdef Q_OS_WIN
     if (!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs))

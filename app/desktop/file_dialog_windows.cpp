@@ -116,8 +116,8 @@ QString WithoutAddedExtension(const QString& path, const QString& given, QWidget
 
 } // namespace
 
-QString AskForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::Filter>& filters, const QDir& folder, const QString& name,
-                   QWidget& owner)
+QString AskForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::Filter>& filters, const QDir& folder,
+                   const QString& name, QWidget& owner)
 {
     const bool save = mode == QFileDialog::AcceptSave;
     GivenName given;

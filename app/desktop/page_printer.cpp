@@ -4,7 +4,6 @@
 
 #include <QBuffer>
 #include <QFontMetricsF>
-#include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -19,89 +18,74 @@ QString ToQString(std::u16string_view text)
     return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-} // namespace
-
-PagePaper::PagePaper(const QString& name) : Device(QPrinter::HighResolution)
+/// A pixel of the font is a twip, so that its metrics are the same whatever the printer's own resolution.
+QFont ToQFont(const view::PageFont& font)
 {
-    Device.setDocName(name);
-    Device.setCreator("Glyphgrove");
-    Device.setFullPage(true);
+    QFont there(QString::fromUtf16(font.name));
+    there.setPixelSize(qRound(font.size * TwipsPerPoint));
+    there.setBold(font.bold);
+    there.setItalic(font.italic);
+    there.setHintingPreference(QFont::PreferNoHinting);
+    return there;
 }
 
-std::optional<double> PagePaper::PageWidth()
-{
-    Device.setPageOrientation(QPageLayout::Portrait); // whatever was chosen
-    // From the sheet's corner: printers of Windows count from their margins, full page or not.
-    Device.setPageMargins({});
-    const QSizeF sheet = Device.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
-    if (sheet.isEmpty())
-        return std::nullopt;
-    Scale = view::ScaleForSheet(sheet.width(), sheet.height());
-    return sheet.width() / Scale;
-}
-
-std::optional<double> PagePaper::SetFont(const view::PageFont& font)
-{
-    CurrentFont = QFont(QString::fromUtf16(font.name));
-    // A pixel of the font is a twip, so that its metrics are the same whatever the printer's own resolution.
-    CurrentFont.setPixelSize(qRound(font.size * TwipsPerPoint));
-    CurrentFont.setBold(font.bold);
-    CurrentFont.setItalic(font.italic);
-    CurrentFont.setHintingPreference(QFont::PreferNoHinting);
-    return CurrentFont.pixelSize() / TwipsPerPoint;
-}
-
-std::optional<double> PagePaper::Measure(std::u16string_view text)
-{
-    return QFontMetricsF(CurrentFont).horizontalAdvance(ToQString(text));
-}
-
-bool PagePaper::Write(view::PagePoint position, std::u16string_view text)
-{
-    Texts.push_back({CurrentFont, {position.x, position.y}, ToQString(text)});
-    return true;
-}
-
-bool PagePaper::DrawLine(view::PagePoint from, view::PagePoint to)
-{
-    Lines.emplace_back(from.x, from.y, to.x, to.y);
-    return true;
-}
-
-bool PagePaper::EndDocument()
-{
-    if (Device.outputFormat() == QPrinter::PdfFormat)
-        return WritePdf();
-    Device.setResolution(TwipsPerInch); // the dialog or another printer may have set its own
-    return PaintOn(Device);
-}
-
-/// A file that finds no room leaves nothing behind, and an earlier one of its name as it was.
-bool PagePaper::WritePdf() const
-{
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&file);
-    writer.setPageLayout(Device.pageLayout());
-    writer.setTitle(Device.docName());
-    writer.setCreator(Device.creator());
-    writer.setResolution(TwipsPerInch);
-    return PaintOn(writer) && file_bytes::Save(Device.outputFileName(), file.data().toStdString());
-}
-
-bool PagePaper::PaintOn(QPaintDevice& device) const
+bool Draw(const view::Page& page, double scale, QPaintDevice& device)
 {
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    const double unitsPerTwip = Scale * device.logicalDpiX() / TwipsPerInch;
+    const double unitsPerTwip = scale * device.logicalDpiX() / TwipsPerInch;
     painter.scale(unitsPerTwip, unitsPerTwip);
     painter.setPen(QPen(Qt::black, BoxPen, Qt::SolidLine, Qt::SquareCap));
-    for (const QLineF& line : Lines)
-        painter.drawLine(line);
-    for (const Text& text : Texts) {
-        painter.setFont(text.font);
-        painter.drawText(text.topLeft + QPointF(0, QFontMetricsF(text.font).ascent()), text.text);
+    const auto& [left, top, right, bottom] = page.box;
+    for (const QLineF& side : {QLineF(left, top, right, top), QLineF(right, top, right, bottom),
+                               QLineF(right, bottom, left, bottom), QLineF(left, bottom, left, top)})
+        painter.drawLine(side);
+    view::PageFont font{};
+    double ascent = 0;
+    for (const view::PageText& text : page.texts) {
+        if (text.font != font) {
+            font = text.font;
+            painter.setFont(ToQFont(font));
+            ascent = QFontMetricsF(painter.font()).ascent();
+        }
+        painter.drawText(QPointF(text.x, text.y + ascent), ToQString(text.text));
     }
     return painter.end();
+}
+
+bool WritePdf(const view::Page& page, double scale, const QPrinter& printer)
+{
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&file);
+    writer.setPageLayout(printer.pageLayout());
+    writer.setTitle(printer.docName());
+    writer.setCreator("Glyphgrove");
+    writer.setResolution(TwipsPerInch);
+    return Draw(page, scale, writer) && file_bytes::Save(printer.outputFileName(), file.data().toStdString());
+}
+
+} // namespace
+
+bool PrintPage(QPrinter& printer, const QString& title, std::span<const std::u16string> words,
+               const generator::PuzzleWorkspace& workspace)
+{
+    printer.setFullPage(true);
+    printer.setPageOrientation(QPageLayout::Portrait); // whatever was chosen
+    printer.setPageMargins({}); // printers of Windows count from their margins, full page or not
+    const QSizeF sheet = printer.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
+    if (sheet.isEmpty())
+        return false;
+    const double scale = view::ScaleForSheet(sheet.width(), sheet.height());
+    const view::PageMetrics metrics{
+        sheet.width() / scale, [](const view::PageFont& font) { return ToQFont(font).pixelSize() / TwipsPerPoint; },
+        [](const view::PageFont& font, std::u16string_view text) {
+            return QFontMetricsF(ToQFont(font)).horizontalAdvance(ToQString(text));
+        }};
+    const view::Page page = view::LayOutPage(metrics, title.toStdU16String(), words, workspace);
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        return WritePdf(page, scale, printer);
+    printer.setResolution(TwipsPerInch); // the dialog may have set another
+    return Draw(page, scale, printer);
 }

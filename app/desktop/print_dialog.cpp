@@ -1,7 +1,7 @@
 #include "app/desktop/print_dialog.h"
 
-#include "app/desktop/folders.h"
 #include "app/desktop/file_dialog.h"
+#include "app/desktop/folders.h"
 #include "document/file_name.h"
 
 #include <QPrintDialog>
@@ -15,15 +15,15 @@ const QString DialogName = "PrinterDialog";
 QString ProposedPdf(const QString& title)
 {
     return UsersDocuments().filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
-                                      ".pdf");
+                                     ".pdf");
 }
 
 #ifdef Q_OS_WIN
 /// Where there is no printer: this desktop's print dialog knows nothing else.
 bool AskForPdf(QPrinter& printer, QWidget& owner)
 {
-    const QString path = FileDialog::Ask(QFileDialog::AcceptSave, {{"PDF Files (*.pdf)", "*.pdf"}},
-                                               UsersDocuments(), ProposedPdf(printer.docName()), &owner, DialogName);
+    const QString path = FileDialog::Ask(QFileDialog::AcceptSave, {{"PDF Files (*.pdf)", "*.pdf"}}, UsersDocuments(),
+                                         ProposedPdf(printer.docName()), &owner, DialogName);
     printer.setOutputFileName(path);
     printer.setOutputFormat(QPrinter::PdfFormat); // whatever the name
     return !path.isEmpty();
