@@ -1,9 +1,9 @@
 #include "app/frmAbout.h"
 
-#include "app/controls/looks.h"
-#include "app/program.h"
 #include "app/controls/focus_ring.h"
+#include "app/controls/looks.h"
 #include "app/controls/maker_link.h"
+#include "app/program.h"
 
 #include <QApplication>
 #include <QPushButton>

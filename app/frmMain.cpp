@@ -1,13 +1,13 @@
 #include "app/frmMain.h"
 
 #include "app/controls/accessible.h"
-#include "app/desktop/dialogs.h"
-#include "app/frmAbout.h"
 #include "app/controls/looks.h"
-#include "app/desktop/message_boxes.h"
-#include "app/program.h"
-#include "app/controls/toolbars.h"
 #include "app/controls/maker_link.h"
+#include "app/controls/toolbars.h"
+#include "app/desktop/dialogs.h"
+#include "app/desktop/message_boxes.h"
+#include "app/frmAbout.h"
+#include "app/program.h"
 #include "document/character_set.h"
 #include "wordlist/limits.h"
 
@@ -62,8 +62,8 @@ void frmMain::BuildMenus()
     mnuFile->setObjectName("mnuFile");
     AddCommand(mnuFile, "mnuOpen", tr("&Open"), QKeySequence::Open, &frmMain::mnuOpen_Click);
     mnuSave = AddCommand(mnuFile, "mnuSave", tr("Sa&ve"), QKeySequence::Save, &frmMain::mnuSave_Click);
-    mnuSaveAs = AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
-                           &frmMain::mnuSaveAs_Click);
+    mnuSaveAs =
+        AddCommand(mnuFile, "mnuSaveAs", tr("Sav&e As"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &frmMain::mnuSaveAs_Click);
     AddCommand(mnuFile, "mnuNewPuzzle", tr("&New Puzzle"), QKeySequence::New, &frmMain::mnuNewPuzzle_Click);
     AddCommand(mnuFile, "mnuExit", tr("&Quit"), Qt::CTRL | Qt::Key_Q, &frmMain::mnuExit_Click);
     mnuSave->setEnabled(false);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/frmPuzzle.h"
 #include "app/controls/client_window.h"
 #include "app/controls/text_box.h"
 #include "app/controls/title_label.h"
 #include "app/controls/word_list.h"
+#include "app/frmPuzzle.h"
 #include "generator/workspace.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
-#include "app/frmMain.h"
 #include "app/controls/looks.h"
 #include "app/desktop/message_boxes.h"
+#include "app/frmMain.h"
 #include "app/program.h"
 
 #include <QCloseEvent>

@@ -1,8 +1,8 @@
 #include "app/desktop/file_bytes.h"
-#include "app/desktop/folders.h"
-#include "app/frmMain.h"
-#include "app/desktop/message_boxes.h"
 #include "app/desktop/file_dialog.h"
+#include "app/desktop/folders.h"
+#include "app/desktop/message_boxes.h"
+#include "app/frmMain.h"
 #include "document/puzzle_file.h"
 
 #include <QFileInfo>
@@ -40,8 +40,8 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    const QString fileName = FileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles},
-                                                   ProposedFolder(), RememberedName, this);
+    const QString fileName =
+        FileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles}, ProposedFolder(), RememberedName, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;

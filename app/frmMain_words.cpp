@@ -1,5 +1,5 @@
-#include "app/frmMain.h"
 #include "app/desktop/message_boxes.h"
+#include "app/frmMain.h"
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
 

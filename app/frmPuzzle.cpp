@@ -1,8 +1,8 @@
 #include "app/frmPuzzle.h"
 
 #include "app/controls/looks.h"
-#include "app/program.h"
 #include "app/controls/toolbars.h"
+#include "app/program.h"
 
 #include <QCloseEvent>
 
@@ -61,9 +61,9 @@ void frmPuzzle::BuildWordLabels()
 /// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
 void frmPuzzle::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar("PuzzleToolbar", tr("Puzzle"),
-                                    {{"Print", tr("Print Puzzle")}, {"Back", tr("Go Back")}}, *Client,
-                                    [this](int index) { PuzzleToolbar_ButtonClick(index); });
+    QToolBar* toolbar =
+        MakeToolbar("PuzzleToolbar", tr("Puzzle"), {{"Print", tr("Print Puzzle")}, {"Back", tr("Go Back")}}, *Client,
+                    [this](int index) { PuzzleToolbar_ButtonClick(index); });
     looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
     toolbar->actions().first()->setShortcuts(QKeySequence::Print);
     toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) << Qt::Key_Escape);

@@ -1,8 +1,8 @@
-#include "app/desktop/dialogs.h"
-#include "app/frmMain.h"
 #include "app/controls/icons.h"
-#include "app/program.h"
+#include "app/desktop/dialogs.h"
 #include "app/desktop/folders.h"
+#include "app/frmMain.h"
+#include "app/program.h"
 
 #include <QApplication>
 #include <QSessionManager>

@@ -15,10 +15,6 @@ bool Leave(const char* what, const QString& path, bool written)
 
 bool LeavePicture(const char* what, QWidget* window, const QString& path)
 {
-    if (window != nullptr) { // whole, also where the screen is too small for it
-        window->setMinimumSize(0, 0);
-        window->resize(window->sizeHint());
-    }
     return Leave(what, path, window != nullptr && window->grab().save(path));
 }
 

@@ -78,10 +78,12 @@ void Script::Step(const QString& step)
         {"delete", [&] { Click("cmdDelete"); }},
         {"create", [&] { Click("cmdCreatePuzzle"); }},
         {"tool", [&] { ToolButton(*Window, "Toolbar1", about).click(); }},
-        {"menu", [&] { ChooseFromMenu(about.at(0).toLatin1(), about.at(1).toLatin1()); }},
+        {"menu", [&] { QTest::keyClick(OpenMenu(about.at(0).toLatin1()), about.at(1).toLatin1()); }},
         {"print", [&] { puzzleTool("Print"); }},
         {"back", [&] { puzzleTool("Back"); }},
         {"closepuzzle", [&] { puzzle()->close(); }},
+        {"closetwice", [&, window = QPointer(ShownWindow("frmPuzzle"))] { window->close(), window->close(); }},
+        {"openmenu", [&] { OpenMenu(about.at(0).toLatin1()); }},
         {"taskbar", [&] { Window->showMinimized(), Window->showNormal(); }},
         {"closemain", [&] { Window->close(); }},
         {"yes", [&] { Answering.Expect(Press(QMessageBox::Yes)); }},
@@ -169,14 +171,14 @@ void Script::TabRound()
         QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);
 }
 
-void Script::ChooseFromMenu(char menu, char item)
+QWidget* Script::OpenMenu(char key)
 {
     Activate();
-    QTest::keyClick(Window.get(), menu, Qt::AltModifier);
-    QWidget* popup = QApplication::activePopupWidget();
-    if (popup == nullptr)
-        qFatal("no menu opens with Alt and %c", menu);
-    QTest::keyClick(popup, item);
+    QTest::keyClick(Window.get(), key, Qt::AltModifier);
+    QWidget* menu = QApplication::activePopupWidget();
+    if (menu == nullptr)
+        qFatal("no menu opens with Alt and %c", key);
+    return menu;
 }
 
 } // namespace driving

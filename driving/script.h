@@ -57,7 +57,7 @@ private:
     void Enter(const QString& about, void (*enter)(QLineEdit& box, const QString& text));
     void PressWithoutWaiting(const QString& keys);
     void TabRound();
-    void ChooseFromMenu(char menu, char item);
+    QWidget* OpenMenu(char key);
 };
 
 } // namespace driving

@@ -166,25 +166,6 @@ private slots:
         QVERIFY(fits({u"   "}, "ZZZ..."));
     }
 
-    void DrawsInTheStatedOrder()
-    {
-        int readings = 0;
-        RandomSource random([&readings] { return static_cast<std::uint64_t>(++readings); });
-        PuzzleWorkspace workspace(random);
-        workspace.PuzzleSize = 17;
-        workspace.WordLength = 0; // fits at the first draw
-        workspace.InsertionPointAndDirection();
-        QCOMPARE(readings, 3); // one at the start, one before the direction, one before the start cell
-        readings = 1;
-        random.Reseed();
-        QCOMPARE(workspace.Direction, 1 + random.DrawBelow(8));
-        random.Reseed();
-        QCOMPARE(workspace.CurrentRow, 1 + random.DrawBelow(17));
-        QCOMPARE(workspace.CurrentColumn, 1 + random.DrawBelow(17));
-        workspace.FillPuzzle();
-        QCOMPARE(readings, 3);
-    }
-
     void NeverRepeatsWithinATick()
     {
         RandomSource random = FixedRandom(0);

@@ -4,7 +4,9 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputMethodEvent>
+#include <QMetaEnum>
 #include <QPrintDialog>
+#include <QRegularExpression>
 
 class MainWindowTest : public WindowScript {
     Q_OBJECT
@@ -13,7 +15,7 @@ private slots:
     void ShowsWhatEachCommandLeaves_data()
     {
         QTest::addColumn<QStringList>("lines");
-        for (const QString& block : QString(Data("scripts.txt")).split("\n\n")) {
+        for (const QString& block : Data("scripts.txt").split("\n\n")) {
             const QStringList lines = block.split('\n').filter(QRegularExpression("^[^#]"));
             QTest::newRow(qPrintable(lines[0])) << lines;
         }
@@ -25,6 +27,14 @@ private slots:
         Run(lines[0]);
         QCOMPARE("= " + State().Line(), lines[1]);
         QCOMPARE("? " + Boxes(), lines.value(2, "? "));
+    }
+
+    /// A name that no disk takes: the save fails, and Save still writes to the file before.
+    void KeepsTheFileNameWhenSavingAsFails()
+    {
+        Run("word:CAT file:new.pux menu:fe word:DOG file:" + QString(300, 'x') + " menu:fe");
+        Run("word:EEL menu:fv");
+        QCOMPARE(Files("new*").value("new.pux"), "2.2/New Puzzle/CAT/DOG/EEL/");
     }
 
     /// What boxes offer, the usual answer last; the names with which dialogs open, and what one can choose there.

@@ -43,17 +43,6 @@ private slots:
             QCOMPARE(wordlist::InsertPosition(words, word), place);
         QCOMPARE(wordlist::InsertPosition({}, u"cat"), 0U);
         QCOMPARE(wordlist::InsertPosition(Words{u"cat", u"dog", u"\u00C9lan", u"fox"}, u"elm"), 3U);
-
-        generator::RandomSource random = FixedRandom(3);
-        Words grown;
-        for (const auto& word : RandomWords(random, 300, 3, 4)) {
-            const auto position = static_cast<std::ptrdiff_t>(wordlist::InsertPosition(grown, word));
-            grown.insert(grown.begin() + position, word);
-        }
-        QVERIFY(std::ranges::is_sorted(grown));
-        // In a list out of order every word still gets a place in it.
-        for (const auto& word : RandomWords(random, 50, 3))
-            QVERIFY(wordlist::InsertPosition(RandomWords(random, 9, 3), word) <= 9);
     }
 
     void SpellsLettersForTheGrid()

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QToolBar>
 
 #include <map>
 #include <memory>
@@ -80,10 +81,11 @@ private:
     mutable std::map<int, QAccessible::Id> Rows; ///< those asked for so far
 };
 
-/// A client area tells of what is to be seen in it: neither of hidden controls nor of the ring around the focus.
+/// A client area or a toolbar with the controls that can be seen: no hidden ones, of which a toolbar has one too, not
+/// the ring around the focus, nor the trademark sign, which says nothing when read aloud.
 class SeenControls : public QAccessibleWidget {
 public:
-    explicit SeenControls(QWidget* client) : QAccessibleWidget(client, QAccessible::Client) {}
+    using QAccessibleWidget::QAccessibleWidget;
 
     int childCount() const override { return static_cast<int>(Seen().size()); }
     QAccessibleInterface* child(int index) const override
@@ -101,7 +103,8 @@ private:
         QObjectList seen = widget()->children();
         seen.removeIf([](const QObject* child) {
             const auto* control = qobject_cast<const QWidget*>(child);
-            return control == nullptr || control->isHidden() || qobject_cast<const FocusRing*>(child) != nullptr;
+            return control == nullptr || control->isHidden() || control->objectName() == "lblTM" ||
+                   qobject_cast<const FocusRing*>(child) != nullptr;
         });
         return seen;
     }
@@ -130,8 +133,10 @@ QAccessibleInterface* Describe(const QString& /*className*/, QObject* object)
         return new GridOfLetters(surface);
     if (auto* link = qobject_cast<MakerLink*>(object))
         return new PressableLink(link);
+    if (auto* toolbar = qobject_cast<QToolBar*>(object))
+        return new SeenControls(toolbar, QAccessible::ToolBar);
     if (object->objectName() == "client")
-        return new SeenControls(qobject_cast<QWidget*>(object));
+        return new SeenControls(qobject_cast<QWidget*>(object), QAccessible::Client);
     return nullptr;
 }
 

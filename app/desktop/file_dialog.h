@@ -15,7 +15,7 @@ public:
 
     /// `name` is the name, in `folder`, or the path that the dialog shows at first.
     FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-                     QWidget* owner);
+               QWidget* owner);
 
     /// Runs a dialog of these, named `objectName`, or the desktop's own where it does the same. The chosen path, or
     /// empty as below.

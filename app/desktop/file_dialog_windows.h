@@ -8,7 +8,7 @@ namespace file_dialog_windows {
 /// Runs the desktop's file dialog over `owner`; `name` is the name, in `folder`, or the path that it shows at first.
 /// The chosen path, or empty when the user cancelled. The toolkit's way to this dialog adds an extension to a name
 /// without one and writes what it remembers to the user's registry.
-QString AskForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::Filter>& filters, const QDir& folder, const QString& name,
-                   QWidget& owner);
+QString AskForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::Filter>& filters, const QDir& folder,
+                   const QString& name, QWidget& owner);
 
 } // namespace file_dialog_windows

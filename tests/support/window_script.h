@@ -1,22 +1,26 @@
 #pragma once
 
-#include "tests/support/data.h"
-#include "tests/support/puzzles.h"
 #include "driving/script.h"
+#include "tests/support/puzzles.h"
 
-#include <QAccessible>
-#include <QMetaEnum>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QWindow>
 #include <QtTest>
 
-#include <array>
 #include <memory>
 
 using namespace driving;
 
-/// All that is to be seen of the program.
+/// A text of tests/data.
+inline QString Data(const QString& name)
+{
+    QFile file(QFINDTESTDATA("../data/" + name));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        qFatal("cannot read %s", qPrintable(name));
+    return QString(file.readAll()).trimmed();
+}
+
+/// The state of the program that a user can see.
 struct Seen {
     QString Caption, Title;
     QStringList Words = {};
@@ -30,27 +34,27 @@ struct Seen {
     bool operator==(const Seen& other) const = default;
 
     /// In a line: caption, big title, words, then S, A, C, E and M for what is available: Save, Save As, Create
-    /// Puzzle, the edit buttons, edit mode; the count, "@" and the position of the selected entry; the text of the
-    /// word box, the files, the windows where they are not the main one. Of more than five words it gives the number.
+    /// Puzzle, the edit buttons, edit mode; the count, "@" and the position of the selected entry, "?" and that of
+    /// the one looked at; the text of the word box, the files, the windows where they are not the main one. For more
+    /// than five words it gives their number.
     QString Line() const
     {
-        QString line = Caption + " | " + Title + " | ";
-        line += Words.size() <= 5 ? Words.join(',') : QString("%1 words").arg(Words.size());
-        line += " | ";
-        const std::array<bool, 5> flags{Save, SaveAs, Create, EditButtons, EditMode};
-        for (std::size_t i = 0; i < flags.size(); ++i)
-            line += flags.at(i) ? QString("SACEM").mid(static_cast<int>(i), 1) : "";
-        line += " | " + Count + (Selected < 0 ? "" : " @" + QString::number(Selected));
-        line += Word.isEmpty() ? "" : " | " + Word;
+        QStringList line{Caption, Title, Words.size() <= 5 ? Words.join(',') : QString("%1 words").arg(Words.size())};
+        line += QString(Save ? "S" : "") + (SaveAs ? "A" : "") + (Create ? "C" : "") + (EditButtons ? "E" : "") +
+                (EditMode ? "M" : "");
+        line += Count + (Selected < 0 ? "" : " @" + QString::number(Selected)) +
+                (LookedAt < 0 ? "" : " ?" + QString::number(LookedAt));
+        if (!Word.isEmpty())
+            line += Word;
         for (auto file = Files.begin(); file != Files.end(); ++file)
-            line += " | " + file.key() + '=' + file.value();
-        line += Shown == "frmMain" ? "" : " | " + (Shown.isEmpty() ? "closed" : Shown);
-        return line.replace("Glyphgrove", "G").replace("New Puzzle", "NP");
+            line += file.key() + '=' + file.value();
+        if (Shown != "frmMain")
+            line += Shown.isEmpty() ? "closed" : Shown;
+        return line.join(" | ").replace("Glyphgrove", "G").replace("New Puzzle", "NP");
     }
 };
 
-/// The base of the window tests: a fresh window and a folder of files for each, and what is to be seen of
-/// them, as texts. Most tests are tables of scripts and of what they leave.
+/// The base of the window tests: a fresh window and a folder of files for each.
 class WindowScript : public QObject, protected Script {
     Q_OBJECT
 
@@ -72,8 +76,8 @@ protected:
     {
         Seen seen{Window->windowHandle()->title(), Control<QLabel>("lblBigTitle").text()};
         const auto& list = Control<WordList>("lstWordlist");
-        for (int i = 0; i < list.count(); ++i)
-            seen.Words += list.item(i)->text();
+        for (const auto& word : list.Words())
+            seen.Words += QString::fromStdU16String(word);
         seen.Selected = list.SelectedPosition();
         seen.LookedAt = list.currentRow();
         seen.Word = Control<QLineEdit>("txtNewWords").text();
@@ -91,61 +95,29 @@ protected:
         return seen;
     }
 
-    /// What is to be seen of a window and its named controls: name, place and size in pixels, font where it is not
-    /// the interface's, text colour, ground where it has one of its own, alignment, text, tip; what assistive
-    /// technology is told.
-    static QStringList Looks(const QWidget& window)
-    {
-        QStringList looks{QString("\"%1\" %2x%3 flags %4 focus %5")
-                              .arg(window.windowTitle())
-                              .arg(window.width())
-                              .arg(window.height())
-                              .arg(window.windowFlags().toInt(), 0, 16)
-                              .arg(window.focusWidget()->metaObject()->className())};
-        for (QWidget* control : window.findChildren<QWidget*>()) {
-            static const QRegularExpression ours("^(lbl|txt|cmd|lst|pct|.*Toolbar|client)");
-            const auto* button = qobject_cast<const QToolButton*>(control);
-            const QString name = button != nullptr ? button->text() : control->objectName();
-            if ((button == nullptr && !ours.match(name).hasMatch()) || control->isHidden())
-                continue;
-            const QRect place(control->mapTo(control->window(), QPoint()), control->size());
-            QString look =
-                name + QString::asprintf(" %d,%d %dx%d", place.x(), place.y(), place.width(), place.height());
-            if (const QFont font = control->font(); font != QApplication::font())
-                look += ' ' + font.family() + ' ' + QString::number(font.pointSizeF()) +
-                        (font.bold() && font.italic() ? " bold italic" : "");
-            look += ' ' + control->palette().color(control->foregroundRole()).name();
-            if (control->autoFillBackground() || control->inherits("QAbstractButton"))
-                look += " on " + control->palette().color(control->backgroundRole()).name();
-            static const QSet<QString> usual{"", "false", "NoFocus", "AlignLeading|AlignVCenter",
-                                             "ScrollBarAsNeeded"};
-            for (const char* property : {"alignment", "text", "toolTip", "default", "focusPolicy", "wordWrap",
-                                         "verticalScrollBarPolicy", "horizontalScrollBarPolicy"})
-                if (const QString value = control->property(property).toString(); !usual.contains(value))
-                    look += QString(" %1 \"%2\"").arg(property, value);
-            if (button != nullptr)
-                look += QString(" pictures %1").arg(button->icon().availableSizes().size());
-            const auto* spoken = QAccessible::queryAccessibleInterface(control);
-            look += QString(", ") + QMetaEnum::fromType<QAccessible::Role>().valueToKey(spoken->role());
-            if (const QString told = spoken->text(QAccessible::Name); told != control->property("text"))
-                look += " \"" + told + '"';
-            looks += look;
-        }
-        return looks;
-    }
-
-    /// The boxes and dialogs that came since the last call, by short names; a text that differs stays as it
-    /// is.
+    /// The boxes and dialogs that came since the last call, by short names; a text that differs stays as it is.
     QString Boxes()
     {
-        static const QList<QStringList> names = Rows("boxes.json");
-        QStringList shown;
-        for (const QString& text : Answering.Shown()) {
-            shown += text;
-            for (const QStringList& row : names)
-                if (text == row[1] || (row[1].startsWith('*') && text.contains(row[1].mid(1))))
-                    shown.last() = row[0];
-        }
+        static const QList<std::pair<QString, QString>> names{
+            {"save?", "Important: Do you want to save the changes you made to your Glyphgrove?"},
+            {"again?",
+             "Duplicate warning: Word already exists in your list! Do you want to put it into your list again?"},
+            {"limit", "Word Limit!: 40 word limit reached!"},
+            {"older",
+             "Important!: This is a Glyphgrove 2.1 file. For maximum performance, saving this file will update "
+             "it to 2.1.1 format."},
+            {"bad", "WARNING!: Not a valid Glyphgrove 2.2 File or file corrupted"},
+            {"nothing to save", "Glyphgrove: You must have at least one word to save the puzzle."},
+            {"file", "dlgFileName"},
+            {"replace?", "*already exists."},
+            {"no folder", "*no such folder"},
+            {"no folder", "*is not writable."},
+            {"obstacle", "*cannot become a puzzle yet."}};
+        QStringList shown = Answering.Shown();
+        for (QString& text : shown)
+            for (const auto& [name, stated] : names)
+                if (text == stated || (stated.startsWith('*') && text.contains(stated.mid(1))))
+                    text = name;
         return shown.join(' ');
     }
 
@@ -165,8 +137,18 @@ private slots:
     {
         Disk = std::make_unique<QTemporaryDir>();
         Folder = QDir(Disk->path());
-        for (const QFileInfo& file : QFileInfo(QFINDTESTDATA("../data/good.pux")).dir().entryInfoList({"*.pux"}))
-            QFile::copy(file.filePath(), Folder.filePath(file.fileName()));
+        const QString many = QString("/WORD").repeated(40);
+        for (const auto& [name, records] : std::initializer_list<std::pair<const char*, QString>>{
+                 {"good.pux", "2.2/Pets/DOG/CAT"},
+                 {"older.pux", "Glyphgrove2.1/Old/DOG"},
+                 {"bad.pux", "Glyph/Pets/DOG"},
+                 {"long.pux", "2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERSX"},
+                 {"full.pux", "2.2/F" + many},
+                 {"many.pux", "2.2/M/DOG" + many}}) {
+            QFile file(Folder.filePath(name));
+            const QString bytes = '"' + QString(records).replace("/", "\"\r\n\"") + "\"\r\n";
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes.toLatin1()) > 0);
+        }
         QApplication::setFont(QFont("Liberation Sans", 9));
         Answering.Shown();
         Start(FixedRandom(1));
