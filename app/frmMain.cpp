@@ -99,7 +99,7 @@ void frmMain::BuildToolbar()
 
 void frmMain::BuildTitle()
 {
-    lblBigTitle = new TitleLabel(tr("New Puzzle"), Client);
+    lblBigTitle = new TitleLabel(program::NewPuzzle, Client);
     lblBigTitle->setObjectName("lblBigTitle");
     lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
@@ -109,7 +109,7 @@ void frmMain::BuildTitle()
     txtTitle = new TextBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
     txtTitle->setObjectName("txtTitle");
     txtTitle->setAccessibleName(tr("Title"));
-    txtTitle->setText(tr("New Puzzle"));
+    txtTitle->setText(program::NewPuzzle);
     Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
     Place(*AddLabel("lblTitle", tr("Title:"), txtTitle), Margin, TitleRow, BoxLeft - Margin, RowHeight);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
@@ -205,7 +205,7 @@ void frmMain::Form_Load()
 {
     Saved = true;
     TitleSet = false;
-    setWindowTitle(tr("Glyphgrove - New Puzzle"));
+    setWindowTitle(program::Name + " - " + program::NewPuzzle);
     txtNewWords->setFocus();
 }
 

@@ -32,11 +32,11 @@ bool frmMain::CheckForSave()
 void frmMain::ResetAll(bool forNew)
 {
     ClearTextbox();
-    txtTitle->setText(tr("New Puzzle"));
+    txtTitle->setText(program::NewPuzzle);
     lstWordlist->clear();
     EditIndex = -1; // an edit under way was of a word that is gone
     WordCounter();
-    looks::SetCaption(*this, tr("Glyphgrove-New Puzzle"));
+    ShowTitleInCaption();
     mnuSave->setEnabled(false);
     mnuSaveAs->setEnabled(false);
     Saved = true;
@@ -95,7 +95,7 @@ void frmMain::txtTitle_Change()
 void frmMain::txtTitle_Click()
 {
     InTitleBox = true; // the click may come before the window is told that it is active
-    if (txtTitle->text() == tr("New Puzzle") || !TitleSet) {
+    if (txtTitle->text() == program::NewPuzzle || !TitleSet) {
         txtTitle->clear();
         TitleSet = true;
     }
@@ -105,7 +105,7 @@ void frmMain::txtTitle_Click()
 void frmMain::txtTitle_LostFocus()
 {
     if (txtTitle->text().isEmpty()) {
-        txtTitle->setText(tr("New Puzzle"));
+        txtTitle->setText(program::NewPuzzle);
         TitleSet = false;
     }
 }

@@ -51,7 +51,7 @@ void frmMain::ComeBack()
 
 void frmMain::DrawToPictureBox()
 {
-    Puzzle->pctPuzzle->Draw(view::LayOutGrid(Workspace, frmPuzzle::SurfaceWidth));
+    Puzzle->pctPuzzle->Write(view::LayOutGrid(Workspace, frmPuzzle::SurfaceWidth));
 }
 
 /// Prints the puzzle that is shown on one page. Cancelling and failing end it quietly.

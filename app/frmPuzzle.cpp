@@ -43,7 +43,7 @@ void frmPuzzle::BuildTitle()
     lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 15.75));
     lblBigTitle->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    SetTitle(tr("New Puzzle"));
+    SetTitle(program::NewPuzzle);
 }
 
 void frmPuzzle::BuildWordLabels()

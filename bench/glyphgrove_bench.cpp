@@ -22,8 +22,6 @@ std::vector<std::u16string> RandomWords(generator::RandomSource& random, std::in
 void MakePuzzle(benchmark::State& state)
 {
     generator::PuzzleWorkspace workspace;
-    double dense = 0;
-    double lanes = 0;
     for (auto _ : state) {
         state.PauseTiming();
         const auto words = RandomWords(workspace.Random, state.range(0), state.range(1));
@@ -31,11 +29,7 @@ void MakePuzzle(benchmark::State& state)
         state.ResumeTiming();
         workspace.LoadWordsArray(words);
         workspace.LoadPuzzleArray();
-        dense += workspace.Arranged == generator::PuzzleWorkspace::Arrangement::Dense ? 1 : 0;
-        lanes += workspace.Arranged == generator::PuzzleWorkspace::Arrangement::Lanes ? 1 : 0;
     }
-    state.counters["dense"] = benchmark::Counter(dense, benchmark::Counter::kAvgIterations);
-    state.counters["lanes"] = benchmark::Counter(lanes, benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(MakePuzzle)->Args({10, 5})->Args({40, 7})->Args({40, 12})->Args({40, 20})->Unit(benchmark::kMicrosecond);
 

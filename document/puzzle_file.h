@@ -9,8 +9,8 @@
 
 namespace document {
 
-/// The program's version and the first record of every file it writes.
-inline constexpr std::string_view Version = "2.2";
+/// The program's version, and the first record of every file that it writes.
+inline constexpr std::string_view Version = GLYPHGROVE_VERSION;
 
 inline constexpr int MaxRecords = 101; ///< words taken from one file; what follows is not read
 

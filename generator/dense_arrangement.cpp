@@ -69,7 +69,6 @@ private:
 
 void PuzzleWorkspace::ArrangeDensely()
 {
-    Arranged = Arrangement::Dense;
     for (int pass = 0; pass < DensePasses; ++pass) {
         std::vector<int> words = ShuffledWords(Random);
         std::ranges::stable_sort(words, std::ranges::greater(),
@@ -113,7 +112,6 @@ bool PuzzleWorkspace::PlaceAnywhere(int word, OccupiedLines& lines)
 
 void PuzzleWorkspace::ArrangeInLanes()
 {
-    Arranged = Arrangement::Lanes;
     // The band is as long as the longest word may be and keeps off both borders, so that words may run either
     // way in it. The ten lanes beyond its ends are crossed by none of the band's.
     const int bandStart = 2 + Random.DrawBelow(MaxPuzzleSize - 1 - wordlist::MaxWordLength);

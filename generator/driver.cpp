@@ -1,14 +1,11 @@
 #include "generator/workspace.h"
 
-#include <algorithm>
-
 namespace generator {
 
 void PuzzleWorkspace::LoadPuzzleArray()
 {
     constexpr int PassesPerSize = 6;
     SetPuzzleSize();
-    Arranged = Arrangement::Searched;
     for (int pass = 1; !PlaceAllWords(); ++pass) {
         ClearPuzzleArray();
         if (pass % PassesPerSize != 0)
@@ -56,12 +53,10 @@ bool PuzzleWorkspace::PlaceWord(int& missCount)
     return true;
 }
 
-/// An entry longer than MaxWordLength has no letter and takes no cell: cut to that, it finds room in every grid.
 void PuzzleWorkspace::TakeWord(int word)
 {
     CurrentWord = word;
     DetermineWordLength();
-    WordLength = std::min(WordLength, wordlist::MaxWordLength);
 }
 
 void PuzzleWorkspace::WriteWord()

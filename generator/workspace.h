@@ -23,13 +23,6 @@ inline constexpr int MaxPuzzleSize = 30;
 /// is never used; cell (row, column) counts from (1, 1) at the top left.
 class PuzzleWorkspace {
 public:
-    /// How the words of the last puzzle found their places.
-    enum class Arrangement {
-        Searched, ///< by the random search in list order
-        Dense,    ///< longest first, among all legal placements
-        Lanes,    ///< along rows and columns kept apart
-    };
-
     explicit PuzzleWorkspace(RandomSource random = RandomSource()) : Random(std::move(random)) {}
 
     RandomSource Random;
@@ -57,7 +50,6 @@ public:
 
     int WordIndex = 0;   ///< 1..40, the word slot being placed
     int LetterIndex = 0; ///< 1..20, the letter slot being written; 21 after a word that fills all slots
-    Arrangement Arranged = Arrangement::Searched;
 
     // The words and the grid (workspace.cpp).
 

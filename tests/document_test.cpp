@@ -1,5 +1,4 @@
 #include "document/character_set.h"
-#include "document/file_name.h"
 #include "document/puzzle_file.h"
 #include "tests/support/puzzles.h"
 
@@ -74,13 +73,6 @@ private slots:
         };
         QCOMPARE(wordOf(document::MaxFileBytes - 13).size(), 1U);
         QCOMPARE(wordOf(document::MaxFileBytes - 12).size(), 0U);
-    }
-
-    void NamesFilesAfterTitles()
-    {
-        QCOMPARE(document::FileNameFor(u". 10\x1F km: A\\B? . "), std::u16string(u"10- km- A-B-"));
-        QCOMPARE(document::FileNameFor(u" .. "), std::u16string(u"New Puzzle"));
-        QCOMPARE(document::FileNameFor(u"P" + std::u16string(60, u'x')), u"P" + std::u16string(59, u'x'));
     }
 
     void EveryCharacterSurvives()

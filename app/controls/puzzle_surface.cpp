@@ -5,7 +5,6 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include <algorithm>
 #include <utility>
 
 PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent)
@@ -13,7 +12,7 @@ PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent)
     setFont(looks::Font(looks::Monospaced, 8.25));
 }
 
-void PuzzleSurface::Draw(const std::vector<view::DrawnLetter>& letters)
+void PuzzleSurface::Write(const std::vector<view::DrawnLetter>& letters)
 {
     Letters.insert(Letters.end(), letters.begin(), letters.end());
     update();
@@ -34,8 +33,7 @@ QStringList PuzzleSurface::Rows() const
 
 QRect PuzzleSurface::RowRect(int row) const
 {
-    const auto spacing =
-        static_cast<double>(height()) * 0.8 / static_cast<double>(std::max(Rows().size(), qsizetype(1)));
+    const double spacing = view::GridSpacing(static_cast<int>(Rows().size()), height());
     return {mapToGlobal(QPoint(0, qRound(spacing * (row + 1)))), QSize(width(), qRound(spacing))};
 }
 

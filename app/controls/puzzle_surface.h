@@ -15,7 +15,7 @@ public:
     explicit PuzzleSurface(QWidget* parent);
 
     /// Writes letters, with positions in twips, over what is there.
-    void Draw(const std::vector<view::DrawnLetter>& letters);
+    void Write(const std::vector<view::DrawnLetter>& letters);
     /// The letters drawn, a text for each row, with blanks between them.
     QStringList Rows() const;
     /// Where row `row`, from 0, stands on the screen, in pixels.

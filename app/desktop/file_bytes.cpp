@@ -29,7 +29,10 @@ bool WriteInPlace(const QString& path, const QByteArray& bytes)
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
         return false;
     const QByteArray earlier = file.readAll();
-    return Overwrite(file, bytes) || (Overwrite(file, earlier), false);
+    if (Overwrite(file, bytes))
+        return true;
+    Overwrite(file, earlier);
+    return false;
 }
 
 } // namespace

@@ -6,8 +6,6 @@
 #endif
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 
 namespace {
 
@@ -18,40 +16,28 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-FileDialog::FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-                       QWidget* owner)
-    : QFileDialog(owner)
-{
-    setAcceptMode(mode);
-    setFileMode(QFileDialog::AnyFile);
-    setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops show none of their own
-    QStringList names;
-    for (const Filter& filter : filters)
-        names += QString("%1 (%2)").arg(filter.label, filter.pattern);
-    setOption(HideNameFilterDetails); // the pattern just added: a label may name another
-    setNameFilters(names);
-    setDirectory(folder);
-    if (!name.isEmpty())
-        selectFile(name);
-}
-
 QString FileDialog::Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
                         QWidget* owner, const QString& objectName)
 {
 #ifdef Q_OS_WIN
     if (!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs))
-        return file_dialog_windows::AskForFile(mode, filters, folder, name, *owner);
+        return AskWindowsForFile(mode, filters, folder, name, *owner);
 #endif
-    FileDialog dialog(mode, filters, folder, name, owner);
+    FileDialog dialog(owner);
     dialog.setObjectName(objectName);
-    return dialog.Choose();
-}
-
-QString FileDialog::Choose()
-{
-    if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops add none of their own
+    QStringList names;
+    for (const Filter& filter : filters)
+        names += QString("%1 (%2)").arg(filter.label, filter.pattern);
+    dialog.setOption(HideNameFilterDetails); // the pattern just added; the label may name another
+    dialog.setNameFilters(names);
+    dialog.setDirectory(folder);
+    dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
-    const QString path = selectedFiles().constFirst();
+    const QString path = dialog.selectedFiles().constFirst();
     return FolderExists(path) ? path : QString();
 }
 

@@ -3,30 +3,25 @@
 #include <QDir>
 #include <QFileDialog>
 
-/// The desktop's dialog for puzzle files, serving both Open and Save As.
+/// The dialog that asks for a file to open or to save.
 class FileDialog : public QFileDialog {
     Q_OBJECT
 
 public:
     struct Filter {
-        QString label; ///< shown as it is
+        QString label; ///< shown unchanged
         QString pattern;
     };
 
-    /// `name` is the name, in `folder`, or the path that the dialog shows at first.
-    FileDialog(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-               QWidget* owner);
-
-    /// Runs a dialog of these, named `objectName`, or the desktop's own where it does the same. The chosen path, or
-    /// empty as below.
+    /// Runs a dialog, called `objectName`, that first shows `name`, a name in `folder` or a path. Returns the chosen
+    /// path unchanged, or nothing when the user cancels or the path's folder does not exist.
     static QString Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
                        QWidget* owner, const QString& objectName = "dlgFileName");
 
-    /// Runs the dialog. The chosen path as it was given, or empty when the user cancelled or chose a path in
-    /// a folder that does not exist.
-    QString Choose();
-
 protected:
-    /// A typed path may name a file that does not exist, but not a folder that does not.
+    /// A typed path may name a file that does not exist, but its folder must exist.
     void accept() override;
+
+private:
+    using QFileDialog::QFileDialog;
 };

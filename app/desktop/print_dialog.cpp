@@ -2,20 +2,23 @@
 
 #include "app/desktop/file_dialog.h"
 #include "app/desktop/folders.h"
-#include "document/file_name.h"
+#include "app/program.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QRegularExpression>
 
 namespace {
 
 const QString DialogName = "PrinterDialog";
 
+/// Named after the document, without the characters that some desktop's file names cannot hold.
 QString ProposedPdf(const QString& title)
 {
-    return UsersDocuments().filePath(QString::fromStdU16String(document::FileNameFor(title.toStdU16String())) +
-                                     ".pdf");
+    static const QRegularExpression forbidden(R"([\x01-\x1f/\\:*?"<>|])");
+    const QString name = title.left(60).replace(forbidden, "-").trimmed();
+    return UsersDocuments().filePath((name.isEmpty() ? program::NewPuzzle : name) + ".pdf");
 }
 
 #ifdef Q_OS_WIN
