@@ -84,7 +84,7 @@ private slots:
     /// A disk without room for the new contents, in a folder that takes new files and in one that does not.
     void LeavesTheEarlierFileWhereThereIsNoRoom()
     {
-        for (const mode_t folder : {0777, 0555}) {
+        for (const mode_t folder : {0777U, 0555U}) {
             Protect(folder, 0666);
             rlimit room{};
             getrlimit(RLIMIT_FSIZE, &room);

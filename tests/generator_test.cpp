@@ -76,11 +76,14 @@ private slots:
         Words words{u"Ice cream", u"\u00C9t\u00E9-1", u"ABCDEFGHIJKLMNOPQRSTUVW"};
         words.resize(45, u"X");
         workspace.LoadWordsArray(words);
-        const std::array<std::string, 4> stored{"", "ICE CREAM", "ETE  ", "ABCDEFGHIJKLMNOPQRST"};
-        for (int word = 1; word <= 3; ++word)
-            for (std::size_t slot = 1; slot <= 20; ++slot)
-                QCOMPARE(workspace.WordsArray(word, static_cast<int>(slot)),
-                         slot <= stored.at(word).size() ? stored.at(word)[slot - 1] : generator::Empty);
+        int word = 0;
+        for (std::string stored : {"ICE CREAM", "ETE  ", "ABCDEFGHIJKLMNOPQRST"}) {
+            stored.resize(20, generator::Empty);
+            int slot = 0;
+            ++word;
+            for (const char letter : stored)
+                QCOMPARE(workspace.WordsArray(word, ++slot), letter);
+        }
         QCOMPARE(workspace.LetterCount, 9 + 5 + 20 + 37);
         QCOMPARE(workspace.LongestWord, 20);
         workspace.CurrentWord = 3;

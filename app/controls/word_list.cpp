@@ -24,6 +24,7 @@ WordList::WordList(QWidget* parent) : QListWidget(parent)
 std::vector<std::u16string> WordList::Words() const
 {
     std::vector<std::u16string> words;
+    words.reserve(static_cast<std::size_t>(count()));
     for (int i = 0; i < count(); ++i)
         words.push_back(item(i)->text().toStdU16String());
     return words;
