@@ -18,7 +18,7 @@
 
 namespace {
 
-// Where the controls stand in the client area, in twips.
+// Positions and sizes in the client area, in twips.
 constexpr int ClientWidth = 10290;
 constexpr int ClientHeight = 6420;
 constexpr int Margin = 360;
@@ -28,15 +28,14 @@ constexpr int RowHeight = 390;
 constexpr int TitleRow = 1260;
 constexpr int WordRow = 1770;
 constexpr int ListHeadRow = 2385;
-constexpr int ListTop = 2835;
-constexpr int ListHeight = 2925;
 constexpr int BottomRow = 5895;
+constexpr int CounterLeft = 6900;
 
 } // namespace
 
 frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*this)), Workspace(std::move(random))
 {
-    TellAssistiveTechnology();
+    InstallAccessibility();
     setObjectName("frmMain");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -53,7 +52,7 @@ frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*th
 
 frmMain::~frmMain()
 {
-    qApp->disconnect(this); // taking the controls down moves the focus once more
+    qApp->disconnect(this); // destroying the controls moves the focus once more
 }
 
 void frmMain::BuildMenus()
@@ -70,7 +69,7 @@ void frmMain::BuildMenus()
     mnuSaveAs->setEnabled(false);
     QMenu* mnuHelp = menuBar()->addMenu(tr("&Help"));
     mnuHelp->setObjectName("mnuHelp");
-    AddCommand(mnuHelp, "mnuAbout", tr("&About"), QKeySequence::HelpContents, &frmMain::mnuAbout_Click);
+    AddCommand(mnuHelp, "mnuAbout", tr("&About"), Qt::Key_F1, &frmMain::mnuAbout_Click);
 }
 
 QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
@@ -94,24 +93,22 @@ void frmMain::BuildToolbar()
                                      {"Save", tr("Save Puzzle")},
                                      {"Delete", tr("Delete Word")}},
                                     *Client, [this](int index) { Toolbar1_ButtonClick(index); });
-    Place(*toolbar, 0, 0, ClientWidth, 360);
+    looks::Place(*toolbar, 0, 0, ClientWidth, 360, Scale);
 }
 
 void frmMain::BuildTitle()
 {
-    lblBigTitle = new TitleLabel(program::NewPuzzle, Client);
-    lblBigTitle->setObjectName("lblBigTitle");
-    lblBigTitle->setTextFormat(Qt::PlainText);
+    lblBigTitle = new TitleLabel(Client);
+    lblBigTitle->setText(program::NewPuzzle);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
     lblBigTitle->setAlignment(Qt::AlignCenter);
-    Place(*lblBigTitle, 120, 420, ClientWidth - 240, 735);
+    Add(lblBigTitle, "lblBigTitle", 120, 420, ClientWidth - 240, 735);
 
     txtTitle = new TextBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
-    txtTitle->setObjectName("txtTitle");
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(program::NewPuzzle);
-    Place(*txtTitle, BoxLeft, TitleRow, BoxWidth, RowHeight);
-    Place(*AddLabel("lblTitle", tr("Title:"), txtTitle), Margin, TitleRow, BoxLeft - Margin, RowHeight);
+    Add(txtTitle, "txtTitle", BoxLeft, TitleRow, BoxWidth, RowHeight);
+    Add(NewLabel(tr("Title:"), txtTitle), "lblTitle", Margin, TitleRow, BoxLeft - Margin, RowHeight);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
     connect(txtTitle, &TextBox::Clicked, this, &frmMain::txtTitle_Click);
     connect(qApp, &QApplication::focusChanged, this,
@@ -121,83 +118,82 @@ void frmMain::BuildTitle()
 void frmMain::BuildWordEntry()
 {
     txtNewWords = new WordBox(Client);
-    txtNewWords->setObjectName("txtNewWords");
     txtNewWords->setAccessibleName(tr("Word"));
-    Place(*txtNewWords, BoxLeft, WordRow, BoxWidth, RowHeight);
-    Place(*AddLabel("lblWord", tr("Word:"), txtNewWords), Margin, WordRow, BoxLeft - Margin, RowHeight);
+    Add(txtNewWords, "txtNewWords", BoxLeft, WordRow, BoxWidth, RowHeight);
+    Add(NewLabel(tr("Word:"), txtNewWords), "lblWord", Margin, WordRow, BoxLeft - Margin, RowHeight);
 }
 
 void frmMain::BuildCommandButtons()
 {
-    cmdEnter = AddButton("cmdEnter", tr("Enter"), &frmMain::cmdEnter_Click);
-    cmdEnter->setAutoDefault(false); // it would cease to be the default once the focus had passed over it
+    cmdEnter = AddButton("cmdEnter", tr("Enter"), &frmMain::cmdEnter_Click, BoxLeft + BoxWidth + 150, WordRow, 1950,
+                         RowHeight);
+    cmdEnter->setAutoDefault(false); // or it stops being the default once the focus has passed over it
     cmdEnter->setDefault(true);
-    Place(*cmdEnter, BoxLeft + BoxWidth + 150, WordRow, 1950, RowHeight);
-    cmdCreatePuzzle = AddButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click);
+    cmdCreatePuzzle = AddButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click, 7680,
+                                TitleRow, 2250, WordRow + RowHeight - TitleRow);
     cmdCreatePuzzle->setEnabled(false);
-    Place(*cmdCreatePuzzle, 7680, TitleRow, 2250, WordRow + RowHeight - TitleRow);
-    cmdEditWord = AddButton("cmdEditWord", tr("Edit Word"), &frmMain::EditWord);
-    Place(*cmdEditWord, 6885, ListHeadRow, 1470, RowHeight);
-    cmdDelete = AddButton("cmdDelete", tr("Delete Word"), &frmMain::cmdDelete_Click);
-    Place(*cmdDelete, 8460, ListHeadRow, 1470, RowHeight);
+    cmdEditWord = AddButton("cmdEditWord", tr("Edit Word"), &frmMain::EditWord, 6885, ListHeadRow, 1470, RowHeight);
+    cmdDelete =
+        AddButton("cmdDelete", tr("Delete Word"), &frmMain::cmdDelete_Click, 8460, ListHeadRow, 1470, RowHeight);
     ShowEditButtons(false);
 }
 
 void frmMain::BuildWordList()
 {
     lstWordlist = new WordList(Client);
-    lstWordlist->setObjectName("lstWordlist");
     lstWordlist->setAccessibleName(tr("My Word List"));
-    Place(*lstWordlist, Margin, ListTop, ClientWidth - 2 * Margin, ListHeight);
+    Add(lstWordlist, "lstWordlist", Margin, 2835, ClientWidth - 2 * Margin, 2925);
     connect(lstWordlist, &WordList::Chosen, this, &frmMain::lstWordlist_Click);
-    QLabel* heading = AddLabel("lblMyWordlist", tr("My Word List"), lstWordlist);
+    QLabel* heading = NewLabel(tr("My Word List"), lstWordlist);
     heading->setFont(looks::BoldItalic(looks::Serif, 14.25));
     heading->setAlignment(Qt::AlignCenter);
-    Place(*heading, 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
+    Add(heading, "lblMyWordlist", 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
 
-    // Side by side, up to the list's right edge.
+    // The count ends at the list's right edge, its label just before it.
     auto* counter = new QWidget(Client);
-    Place(*counter, 6900, BottomRow, ClientWidth - Margin - 6900, RowHeight);
-    lblWordCount = AddLabel("lblWordCount", QString());
+    Add(counter, "", CounterLeft, BottomRow, ClientWidth - Margin - CounterLeft, RowHeight);
+    counter->setFont(heading->font());
+    lblWordCount = NewLabel(QString());
+    lblWordCount->setObjectName("lblWordCount");
+    QLabel* countLabel = NewLabel(tr("Word Count:"), lblWordCount);
+    countLabel->setObjectName("lblWordCountLabel");
     auto* row = new QHBoxLayout(counter);
     row->setContentsMargins({});
     row->addStretch();
-    row->addWidget(AddLabel("lblWordCountLabel", tr("Word Count:"), lblWordCount));
+    row->addWidget(countLabel);
     row->addWidget(lblWordCount);
-    counter->setFont(heading->font());
     WordCounter();
 }
 
 void frmMain::BuildMakerLink()
 {
     auto* lblTallowick = new MakerLink(9.75, Client);
-    lblTallowick->setObjectName("lblTallowick");
     lblTallowick->setToolTip(tr("Click to go to the Tallowick website."));
-    Place(*lblTallowick, Margin, BottomRow + 60, 0, 0);
+    Add(lblTallowick, "lblTallowick", Margin, BottomRow + 60, 0, 0);
     PlaceTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25));
 }
 
-void frmMain::Place(QWidget& control, int x, int y, int width, int height)
+void frmMain::Add(QWidget* control, const char* name, int x, int y, int width, int height)
 {
-    looks::Place(control, x, y, width, height, Scale);
+    control->setObjectName(name);
+    looks::Place(*control, x, y, width, height, Scale);
 }
 
-/// A label; `told` is the control that it stands beside and tells of.
-QLabel* frmMain::AddLabel(const char* name, const QString& text, QWidget* told)
+QLabel* frmMain::NewLabel(const QString& text, QWidget* buddy)
 {
     auto* label = new QLabel(text, Client);
-    label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    label->setBuddy(told);
+    label->setBuddy(buddy);
     return label;
 }
 
-QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (frmMain::*command)())
+QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (frmMain::*command)(), int x, int y,
+                                int width, int height)
 {
     auto* button = new QPushButton(caption, Client);
-    button->setObjectName(name);
-    button->setAutoDefault(true); // Return on it presses it
+    button->setAutoDefault(true); // Return presses it when it has the focus
     connect(button, &QPushButton::clicked, this, command);
+    Add(button, name, x, y, width, height);
     return button;
 }
 
@@ -209,7 +205,8 @@ void frmMain::Form_Load()
     txtNewWords->setFocus();
 }
 
-/// Becoming active: when first shown, when the About box closes, when shown again after the puzzle window.
+/// Becoming active: when the window is first shown, when the About box closes, when the window comes back after the
+/// puzzle window.
 void frmMain::Form_Activate()
 {
     txtNewWords->clear();
@@ -218,12 +215,12 @@ void frmMain::Form_Activate()
 
 void frmMain::showEvent(QShowEvent* event)
 {
-    if (!event->spontaneous()) // the desktop's own un-minimising is none of these
+    if (!event->spontaneous()) // not when the desktop restores a minimised window
         Form_Activate();
 }
 
-/// The default button for every control that has no use for the Return key itself. The keys of Save do what the
-/// toolbar's button does, also where the menu's command is not available.
+/// Return presses the default button when the control with the focus has no use for it. Ctrl+S does what the
+/// toolbar's button does, even when the menu's command is disabled.
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Save)) {

@@ -14,9 +14,9 @@
 
 #include <memory>
 
-/// The main window: home of the document and owner of everything the program keeps while it runs. Its title
-/// box and word list hold the document, its fields the document's and the editor's state, its workspace the
-/// puzzle. Each command is a procedure that sets what is to be seen after it.
+/// The main window owns everything that the program keeps while it runs: the document in its title box and word list,
+/// the states of document and editor in its fields, the puzzle in its workspace. Each command is a procedure that
+/// sets every visible state itself.
 class frmMain : public ClientWindow {
     Q_OBJECT
 
@@ -24,8 +24,7 @@ public:
     explicit frmMain(generator::RandomSource random = generator::RandomSource());
     ~frmMain() override;
 
-    /// Offers to save unsaved changes before the window closes, or the desktop's session ends. False when the user
-    /// wants to stay.
+    /// Offers to save unsaved changes before the window closes or the session ends. False when the user cancels.
     bool Form_QueryUnload();
 
 protected:
@@ -44,9 +43,10 @@ private:
     void BuildCommandButtons();
     void BuildWordList();
     void BuildMakerLink();
-    void Place(QWidget& control, int x, int y, int width, int height);
-    QLabel* AddLabel(const char* name, const QString& text, QWidget* told = nullptr);
-    QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)());
+    void Add(QWidget* control, const char* name, int x, int y, int width, int height);
+    QLabel* NewLabel(const QString& text, QWidget* buddy = nullptr);
+    QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)(), int x, int y,
+                           int width, int height);
     void Form_Load();
     void Form_Activate();
     void Toolbar1_ButtonClick(int index);
@@ -97,7 +97,7 @@ private:
     void DrawToPictureBox();
     void Print_Puzzle();
 
-    double Scale; ///< of everything in the window, for the interface's font
+    double Scale; ///< of the whole window, for the interface's font
     TitleLabel* lblBigTitle = nullptr;
     TextBox* txtTitle = nullptr;
     WordBox* txtNewWords = nullptr;
@@ -109,15 +109,15 @@ private:
     QLabel* lblWordCount = nullptr;
     QAction* mnuSave = nullptr;
     QAction* mnuSaveAs = nullptr;
-    std::unique_ptr<frmPuzzle> Puzzle; ///< the last puzzle, for as long as dialogs may stand above it
+    std::unique_ptr<frmPuzzle> Puzzle; ///< kept as long as a dialog may be open above it
     QWidget* FocusBeforePuzzle = nullptr;
 
     bool Saved = true;       ///< no unsaved changes
     bool TitleSet = false;   ///< the title box holds a title that a click must not clear
-    bool InTitleBox = false; ///< the title box has the focus, or had it when the window was left
+    bool InTitleBox = false; ///< the title box has the focus, or had it when the user left the window
     QString DocFileName;     ///< the file that Save writes; empty when there is none
-    QString RememberedName;  ///< the name that the file dialogs open with
-    QString SelectedWord;    ///< the entry that was selected last
+    QString RememberedName;  ///< the name that the file dialogs show first
+    QString SelectedWord;    ///< the entry selected last
     bool EditMode = false;   ///< Enter replaces an entry instead of adding one
     int EditIndex = -1;      ///< that entry's position; -1 when none was selected
     generator::PuzzleWorkspace Workspace;

@@ -40,7 +40,6 @@ void frmPuzzle::BuildSurface()
 void frmPuzzle::BuildTitle()
 {
     lblBigTitle->setObjectName("lblBigTitle");
-    lblBigTitle->setTextFormat(Qt::PlainText);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 15.75));
     lblBigTitle->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     SetTitle(program::NewPuzzle);

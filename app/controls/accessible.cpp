@@ -142,7 +142,7 @@ QAccessibleInterface* Describe(const QString& /*className*/, QObject* object)
 
 } // namespace
 
-void TellAssistiveTechnology()
+void InstallAccessibility()
 {
     QAccessible::removeFactory(Describe);
     QAccessible::installFactory(Describe);

@@ -2,13 +2,13 @@
 
 #include <QLabel>
 
-/// A label that shows its text whole: in its font where it fits, else smaller, in as many lines as there is room for.
-/// What is too long even so ends in dots and is told whole by the tip.
+/// A label for titles, always plain text. It shows the whole text: in its font if it fits, else smaller, in as many
+/// lines as there is room for. A text too long even for that ends in dots, and the tooltip shows all of it.
 class TitleLabel : public QLabel {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit TitleLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
