@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-/// The About box: the maker, the program in a paragraph, its version. Modal, centred on its owner.
+/// The About box: the maker, a paragraph about the program, its version. Modal, centred on its owner.
 class frmAbout : public QDialog {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-/// Offers to save unsaved changes. True when the user cancelled.
+/// Offers to save unsaved changes. True when the user cancels.
 bool frmMain::CheckForSave()
 {
     if (Saved)
@@ -28,13 +28,13 @@ bool frmMain::CheckForSave()
     }
 }
 
-/// An empty document titled New Puzzle; for New without a file name, for a load with the one it had.
+/// Empties the document. New also takes its file name away; a load keeps it.
 void frmMain::ResetAll(bool forNew)
 {
     ClearTextbox();
     txtTitle->setText(program::NewPuzzle);
     lstWordlist->clear();
-    EditIndex = -1; // an edit under way was of a word that is gone
+    EditIndex = -1; // the word being edited is gone
     WordCounter();
     ShowTitleInCaption();
     mnuSave->setEnabled(false);
@@ -57,8 +57,8 @@ void frmMain::mnuExit_Click()
     Terminate();
 }
 
-/// Closes the windows, the one opened last first. The program ends with the last of them; the main window may
-/// stay open, and the program with it.
+/// Closes the windows, the last one opened first. The program ends with the last of them; the user may keep the main
+/// window open.
 void frmMain::Terminate()
 {
     if (Puzzle && Puzzle->isVisible())
@@ -82,7 +82,7 @@ bool frmMain::Form_QueryUnload()
 void frmMain::Form_Unload()
 {
     if (Puzzle)
-        Puzzle->disconnect(this); // a window that has closed must not come back
+        Puzzle->disconnect(this); // or this window would come back
     Terminate();
 }
 
@@ -91,10 +91,10 @@ void frmMain::txtTitle_Change()
     lblBigTitle->setText(txtTitle->text());
 }
 
-/// The first click into a box without a title of its own empties it.
+/// The first click empties a box that holds no title of its own.
 void frmMain::txtTitle_Click()
 {
-    InTitleBox = true; // the click may come before the window is told that it is active
+    InTitleBox = true; // the click may arrive before the window becomes active
     if (txtTitle->text() == program::NewPuzzle || !TitleSet) {
         txtTitle->clear();
         TitleSet = true;
@@ -110,8 +110,7 @@ void frmMain::txtTitle_LostFocus()
     }
 }
 
-/// The title box has lost the focus when another control has it: not when a menu, a box or another window
-/// has.
+/// The title box loses the focus to another control, not to a menu, a dialog or another window.
 void frmMain::FocusMoved(QWidget* now)
 {
     if (now == txtTitle)

@@ -49,7 +49,7 @@ void frmMain::mnuSaveAs_Click()
         DocFileName = fileName;
 }
 
-/// The toolbar's Save button is never disabled: it does what can be done, or says why nothing can.
+/// The toolbar's Save button is never disabled: it saves, saves as, or says why it cannot.
 void frmMain::ToolbarSave()
 {
     if (mnuSave->isEnabled())
@@ -60,7 +60,7 @@ void frmMain::ToolbarSave()
         message_boxes::Tell(this, tr("You must have at least one word to save the puzzle."));
 }
 
-/// Writes the document to `fileName`. False when that failed: the document then still counts as it did.
+/// Writes the document to `fileName`. False when that fails: the document then still counts as unsaved.
 bool frmMain::SaveFile(const QString& fileName)
 {
     const auto bytes = document::WritePuzzle(txtTitle->text().toStdU16String(), lstWordlist->Words());
@@ -71,8 +71,8 @@ bool frmMain::SaveFile(const QString& fileName)
     return true;
 }
 
-/// Replaces the document with what `fileName` holds, as far as it can be read. True when the file was
-/// rejected, being none of ours: the document is then an empty one that cannot be saved.
+/// Replaces the document with what can be read of `fileName`. True when the file is none of ours: the document is
+/// then empty and cannot be saved.
 bool frmMain::LoadFile(const QString& fileName)
 {
     ResetAll(false);

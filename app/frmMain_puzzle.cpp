@@ -13,7 +13,7 @@ void frmMain::cmdCreatePuzzle_Click()
 {
     CheckForSave(); // whatever the answer
     if (isHidden())
-        return; // the session ended meanwhile
+        return; // the session has ended meanwhile
     const auto words = lstWordlist->Words();
     if (const auto obstacle = wordlist::ObstacleToPuzzle(words)) {
         message_boxes::Tell(this, QString::fromStdU16String(*obstacle));
@@ -39,14 +39,15 @@ void frmMain::FillPuzzleWindow()
     looks::SetCaption(*Puzzle, program::Name + '-' + lblBigTitle->text());
 }
 
-/// The puzzle window has closed. The focus is to be where it was: hiding had passed it on.
+/// The puzzle window has closed. Hiding this window had moved the focus on, so it goes back to where it was.
 void frmMain::ComeBack()
 {
     show();
     if (FocusBeforePuzzle != nullptr)
         FocusBeforePuzzle->setFocus();
     if (QApplication::activeModalWidget() == nullptr)
-        Puzzle.release()->deleteLater(); // with a dialog above it, as at the end of a session, it has to stay
+        Puzzle.release()
+            ->deleteLater(); // it must outlive a dialog above it, which the session's end may have left open
 }
 
 void frmMain::DrawToPictureBox()
@@ -54,7 +55,7 @@ void frmMain::DrawToPictureBox()
     Puzzle->pctPuzzle->Write(view::LayOutGrid(Workspace, frmPuzzle::SurfaceWidth));
 }
 
-/// Prints the puzzle that is shown on one page. Cancelling and failing end it quietly.
+/// Prints the puzzle on one page. It ends quietly when the user cancels or the printer fails.
 void frmMain::Print_Puzzle()
 {
     QPrinter printer(QPrinter::HighResolution);

@@ -41,7 +41,7 @@ void frmMain::AddWord()
     ShowEditButtons(false);
 }
 
-/// Asks once for every entry equal to `word`; false as soon as the user says no.
+/// Asks once for each entry equal to `word`; false as soon as the user says no.
 bool frmMain::UserWantsDuplicates(const QString& word)
 {
     const auto words = lstWordlist->Words();
@@ -54,7 +54,7 @@ bool frmMain::UserWantsDuplicates(const QString& word)
     return true;
 }
 
-/// Replaces the entry at EditIndex. Where the list no longer has one, the text is added as a new word.
+/// Replaces the entry at EditIndex, or adds the text as a new word when the list no longer has that entry.
 void frmMain::ConfirmEdit()
 {
     if (txtNewWords->text().isEmpty())
@@ -64,7 +64,7 @@ void frmMain::ConfirmEdit()
     if (gone) {
         AddWord();
         if (!wordlist::ObstacleToPuzzle(lstWordlist->Words()))
-            cmdCreatePuzzle->setEnabled(true); // whether or not it came to adding
+            cmdCreatePuzzle->setEnabled(true); // whether or not the word was added
         return;
     }
     lstWordlist->Replace(EditIndex, txtNewWords->text());
@@ -98,7 +98,7 @@ void frmMain::cmdDelete_Click()
         ShowEditButtons(false);
 }
 
-/// Removes the selected entry and ends edit mode; with nothing selected it only empties the word box.
+/// Removes the selected entry and ends edit mode. With nothing selected it only empties the word box.
 bool frmMain::DeleteSelectedWord()
 {
     const int position = lstWordlist->SelectedPosition();
@@ -133,7 +133,8 @@ void frmMain::ClearTextbox()
 void frmMain::FocusWordBox()
 {
     txtNewWords->setFocus();
-    LeaveTitleBox(); // said outright: a window that is not the active one, as after a box, moves no focus yet
+    LeaveTitleBox(); // explicitly: a window that is not active yet, as after a message box, reports no move of the
+                     // focus
 }
 
 void frmMain::WordCounter()
@@ -143,5 +144,5 @@ void frmMain::WordCounter()
     palette.setColor(QPalette::WindowText, count < wordlist::MaxWords ? Qt::black : Qt::red);
     lblWordCount->setPalette(palette);
     lblWordCount->setText(QString::number(count));
-    lblWordCount->setAccessibleName(tr("Word Count: %1").arg(count)); // which is announced, too
+    lblWordCount->setAccessibleName(tr("Word Count: %1").arg(count)); // which screen readers announce
 }

@@ -23,7 +23,7 @@ frmPuzzle::frmPuzzle(QScreen* screen)
     setObjectName("frmPuzzle");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
-    setAttribute(Qt::WA_QuitOnClose, false); // the main window, hidden meanwhile, comes back
+    setAttribute(Qt::WA_QuitOnClose, false); // the hidden main window comes back
     BuildSurface();
     BuildTitle();
     BuildWordLabels();
@@ -57,7 +57,7 @@ void frmPuzzle::BuildWordLabels()
     }
 }
 
-/// The toolbar's lower edge lies over the surface's upper one, where no letter stands.
+/// The toolbar covers the top of the surface, where no letter is.
 void frmPuzzle::BuildToolbar()
 {
     QToolBar* toolbar =
@@ -72,7 +72,7 @@ void frmPuzzle::BuildToolbar()
     connect(cmdPrint, &QPushButton::clicked, this, &frmPuzzle::cmdPrint_Click);
 }
 
-/// A title too long for one line of the label has room for a second one above the words.
+/// There is room for a second line above the words when the title needs one.
 void frmPuzzle::SetTitle(const QString& title)
 {
     lblBigTitle->setText(title);
@@ -84,7 +84,7 @@ void frmPuzzle::SetWord(int index, const QString& word)
 {
     QLabel* label = lblWords.at(static_cast<std::size_t>(index));
     label->setText(word);
-    label->setHidden(word.isEmpty()); // nothing is there to be told
+    label->setHidden(word.isEmpty()); // or screen readers would read empty labels
     const int x = index < WordsPerColumn ? 120 : 2520;
     looks::Place(*label, x, 1560 + WordHeight * (index % WordsPerColumn), 0, WordHeight);
     label->resize(label->sizeHint().width(), label->height());
@@ -109,7 +109,7 @@ void frmPuzzle::cmdPrint_Click()
     emit PrintRequested();
 }
 
-/// A window that was told to close twice, as a busy program may be, closes once.
+/// Closes once, even when a busy program finds two requests to close.
 void frmPuzzle::closeEvent(QCloseEvent* /*event*/)
 {
     if (isVisible())

@@ -9,8 +9,8 @@
 
 #include <array>
 
-/// The puzzle window: one generated puzzle beside its word list. It holds no data of its own; the main window
-/// fills its labels and draws its grid, and is told what the user wants of it. It is built for one puzzle.
+/// The puzzle window shows one puzzle beside its word list. It holds no data: the main window fills its labels, draws
+/// its grid and answers its signals. Each puzzle gets a new one.
 class frmPuzzle : public ClientWindow {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
 
 signals:
     void PrintRequested();
-    /// The window closes; the main window takes its place.
+    /// The window closes; the main window comes back.
     void Unloaded();
 
 protected:

@@ -11,14 +11,14 @@ int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(program::Name);
-    QGuiApplication::setDesktopFileName("example.tallowick.Glyphgrove"); // for its icon, on Wayland
+    QGuiApplication::setDesktopFileName("example.tallowick.Glyphgrove"); // Wayland finds the icon by it
     QApplication::setWindowIcon(icons::OfProgram());
 
     KeepNoSettings();
     const DialogKeeper dialogs;
 
     frmMain window;
-    // A session asks this at its end and whenever it wants everything saved; only its end closes the windows.
+    // The session asks this when it ends and whenever it wants everything saved. Windows close only when it ends.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
         if (!session.allowsInteraction())

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// One row of the puzzle's grid: its letters, with blanks between them so that they are spelt out.
+/// One row of the grid: its letters, with spaces between them so that screen readers spell them out.
 class RowOfLetters : public QAccessibleInterface {
 public:
     RowOfLetters(PuzzleSurface& surface, int row) : Surface(surface), Row(row) {}
@@ -78,11 +78,11 @@ public:
 
 private:
     PuzzleSurface& Surface;
-    mutable std::map<int, QAccessible::Id> Rows; ///< those asked for so far
+    mutable std::map<int, QAccessible::Id> Rows; ///< made on first use
 };
 
-/// A client area or a toolbar with the controls that can be seen: no hidden ones, of which a toolbar has one too, not
-/// the ring around the focus, nor the trademark sign, which says nothing when read aloud.
+/// A client area or a toolbar without what a screen reader should skip: hidden controls (every toolbar has a nameless
+/// button), the focus ring, the trademark sign.
 class SeenControls : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;

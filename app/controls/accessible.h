@@ -1,6 +1,5 @@
 #pragma once
 
-/// Tells assistive technology what the widgets of our own are: the maker's link a link that can be pressed,
-/// the puzzle's grid a list of rows of letters. Call it once before a window is built; calling it again is
-/// harmless.
+/// Describes our own widgets to assistive technology: the maker link is a link that can be pressed, the grid a list
+/// of rows of letters. Call it before building a window; calling it again is harmless.
 void InstallAccessibility();

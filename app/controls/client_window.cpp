@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Asks for the size of what it shows, however large.
+/// Asks for the size of its contents, however large.
 class ClientArea : public QScrollArea {
 public:
     QSize sizeHint() const override { return widget()->size(); }
@@ -32,7 +32,7 @@ ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
     area->setWidget(Client);
     Client->setObjectName("client");
     setCentralWidget(area);
-    // Window managers ignore what is asked of them while the user drags a window.
+    // While the user drags a window, some window managers ignore requests for another size.
     Settled.setSingleShot(true);
     Settled.setInterval(200);
     connect(&Settled, &QTimer::timeout, this, &ClientWindow::FitToScreen);
@@ -63,10 +63,10 @@ void ClientWindow::FitToScreen()
     setMinimumSize(NormalSize);
     if (!MayGrow())
         setMaximumSize(NormalSize);
-    else if (isVisible()) { // its border stays fixed all the same: X11's window managers change the size in these
-                            // steps
+    else if (isVisible()) { // X11's window managers let the user drag its border in these steps only, that is, not at
+                            // all
         setBaseSize(NormalSize);
-        setSizeIncrement(10'000, 10'000); // the toolkit passes it on for a window that is there
+        setSizeIncrement(10'000, 10'000); // the toolkit tells them only while the window is visible
     }
     if (!isMaximized() && !isFullScreen())
         resize(NormalSize);
@@ -87,11 +87,11 @@ bool ClientWindow::event(QEvent* event)
         Centre();
     }
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-        Settled.start(); // to the fixed size, and to that of another screen
+        Settled.start(); // then back to the fixed size, or to what another screen has room for
     return QMainWindow::event(event);
 }
 
-/// Return presses the toolbar button with the focus, as it does other buttons.
+/// Return presses a toolbar button, as it does other buttons.
 void ClientWindow::keyPressEvent(QKeyEvent* event)
 {
     auto* button = qobject_cast<QToolButton*>(focusWidget());

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A ring around the button or link of a client area that has the focus: styles show it faintly, or just as they
-/// show the default button. Boxes and lists show the focus themselves.
+/// A ring around the button or link that has the focus: styles mark it faintly, or just like the default button.
+/// Boxes and lists show the focus themselves.
 class FocusRing : public QWidget {
     Q_OBJECT
 

@@ -2,10 +2,10 @@
 
 #include <QIcon>
 
-/// The program's own pictures, from its resources.
+/// The icons in the program's resources.
 namespace icons {
 
-/// A toolbar's picture: back, delete, new, open, print or save, for 16 pixels and denser screens.
+/// A toolbar's icon: back, delete, new, open, print or save; 16 pixels, and denser for HiDPI screens.
 QIcon ForToolbar(const QString& name);
 QIcon OfProgram();
 

@@ -27,7 +27,7 @@ QSize SizeInPixels(const QWidget& widget, int width, int height, double scale)
 
 double ScaleForFont(const QWidget& widget)
 {
-    // At 9 points, the usual size, a line and the longest caption take this much, in twips.
+    // What a line and the longest caption take at the usual 9 points, in twips.
     constexpr double UsualHeight = 210;
     constexpr double UsualWidth = 1530;
     const QFontMetricsF metrics(QApplication::font());
@@ -70,7 +70,7 @@ void OutlineControls(const QWidget& window)
         QPalette palette = control->palette();
         if (control->inherits("QPushButton") || control->inherits("QLineEdit") || control->inherits("QListView") ||
             control->inherits("QScrollBar"))
-            palette.setColor(QPalette::Window, QColor(176, 176, 140)); // a border is a darker shade of it
+            palette.setColor(QPalette::Window, QColor(176, 176, 140)); // styles draw borders in a darker shade of it
         control->setPalette(palette);
     }
 }

@@ -6,37 +6,35 @@
 
 class QWidget;
 
-/// Measures, fonts and colours that the windows have in common.
+/// Measures, fonts and colours that the windows share.
 namespace looks {
 
 inline const QString Serif = "Times New Roman";
 inline const QString Monospaced = "Courier New";
 
-/// Twips (1/1440 inch) in pixels of `widget`, fractions kept: windows grow with their fonts.
+/// Converts twips (1/1440 inch) to pixels of `widget`, with fractions: windows grow with their fonts.
 double ToPixels(const QWidget& widget, double twips);
 
-/// Places `widget` in its parent, all in twips, times `scale`.
+/// Sets the geometry of `widget` in its parent, in twips times `scale`.
 void Place(QWidget& widget, int x, int y, int width, int height, double scale = 1);
 
-/// A size in twips, in pixels of `widget`.
+/// Converts a size in twips to pixels of `widget`.
 QSize SizeInPixels(const QWidget& widget, int width, int height, double scale = 1);
 
-/// How much larger than stated a window is to be drawn so that texts in the interface's font have as much room as
-/// at its usual size.
+/// The factor, at least 1, by which a window must grow so that its texts fit in the interface's font.
 double ScaleForFont(const QWidget& widget);
 
-/// Sets the caption of `window` to `text` as it stands: "[*]" is a placeholder to the toolkit.
+/// Sets the caption of `window`, unchanged even where it holds "[*]", a placeholder to the toolkit.
 void SetCaption(QWidget& window, QString text);
 
 QFont Font(const QString& name, double points);
 QFont BoldItalic(const QString& name, double points);
 
-/// Light yellow with dark text of its own, so that no desktop theme can make it unreadable; boxes and lists
-/// are white.
+/// Light yellow with its own dark text, so that no desktop theme can make it unreadable; boxes and lists are white.
 QPalette LightYellow();
-/// Gives the boxes, buttons, lists and scroll bars of a window outlines with a contrast of 3 : 1 against the ground.
+/// Gives boxes, buttons, lists and scroll bars of `window` outlines with a contrast of 3 : 1.
 void OutlineControls(const QWidget& window);
-/// A white ground with dark text of the given colour.
+/// A white background with text of the given colour.
 QPalette OnWhite(const QColor& text);
 inline const QColor MakerRed(128, 0, 0);
 inline const QColor Focus(0, 60, 140); ///< 7 : 1 against the light yellow, 6 : 1 against buttons

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// The maker's name in dark red on white; a click, or Enter or the blank key with the focus on it, opens the
-/// maker's page with whatever the desktop uses for web addresses. Whether that works is not looked at.
+/// The maker's name in dark red on white. A click, Enter or the space bar opens the maker's page in the user's
+/// browser; a failure goes unnoticed.
 class MakerLink : public QLabel {
     Q_OBJECT
 
@@ -17,5 +17,5 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// Makes a link that has its place as wide as its text, with a small "TM" beside it.
+/// Makes a link as wide as its text and puts a small "TM" beside it. Place the link first.
 void PlaceTrademark(MakerLink& link, const QFont& font);

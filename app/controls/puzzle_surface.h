@@ -6,19 +6,18 @@
 
 #include <vector>
 
-/// The surface on which a puzzle's grid is drawn. It keeps what was drawn on it, whatever happens to the
-/// window above it, and can tell it row by row.
+/// The surface that shows a puzzle's grid. It keeps what was written on it.
 class PuzzleSurface : public QWidget {
     Q_OBJECT
 
 public:
     explicit PuzzleSurface(QWidget* parent);
 
-    /// Writes letters, with positions in twips, over what is there.
+    /// Adds letters, at positions in twips.
     void Write(const std::vector<view::DrawnLetter>& letters);
-    /// The letters drawn, a text for each row, with blanks between them.
+    /// The letters, one text per row, with spaces between them.
     QStringList Rows() const;
-    /// Where row `row`, from 0, stands on the screen, in pixels.
+    /// The place of row `row`, counted from 0, on the screen in pixels.
     QRect RowRect(int row) const;
 
 protected:

@@ -24,7 +24,7 @@ public:
                                                static_cast<std::size_t>(Replaced), Rule));
     }
 
-    /// Takes the box as it stands, for the next edit, and what that would replace.
+    /// Notes the text, and what an insertion would replace: `replaced` characters from `start` on.
     void Remember(qsizetype start, qsizetype replaced)
     {
         Before = Box.text();
@@ -35,15 +35,15 @@ public:
 private:
     TextBox& Box;
     wordlist::TextRule Rule;
-    QString Before;         ///< the text as the last edit left it;
-    qsizetype Start = 0;    ///< an insertion takes the place
-    qsizetype Replaced = 0; ///< of so many characters
+    QString Before;
+    qsizetype Start = 0;
+    qsizetype Replaced = 0;
 };
 
-/// Invalid takes the whole edit back; a text that is changed here becomes the box's, without a history.
+/// The line edit undoes an invalid edit. A text changed here replaces its own, without a history.
 QValidator::State TextValidator::validate(QString& text, int& cursor) const
 {
-    // Setting a text leaves nothing to undo, an edit always does; only undo leaves something to redo.
+    // The program's own texts leave nothing to undo, an edit always does. Only undo leaves something to redo.
     const bool edited = Box.isUndoAvailable() && !Box.isRedoAvailable();
     const qsizetype length = text.size() - Before.size() + Replaced;
     if (!edited || length <= 0 || !text.startsWith(Before.left(Start)) ||
@@ -63,7 +63,7 @@ QValidator::State TextValidator::validate(QString& text, int& cursor) const
 TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
     : QLineEdit(parent), Validator(new TextValidator(*this, rule))
 {
-    setMaxLength(static_cast<int>(document::MaxFileBytes)); // whatever a file brings; the rule bounds the user
+    setMaxLength(static_cast<int>(document::MaxFileBytes)); // room for any file's title; the rule limits the user
     setValidator(Validator);
     const auto remember = [this] {
         Validator->Remember(hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
@@ -73,7 +73,7 @@ TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
     connect(this, &QLineEdit::cursorPositionChanged, this, remember);
 }
 
-/// A character that the rule discards does not even reach the line edit, which would forget what it could redo.
+/// The line edit never sees a discarded character: it would forget what it could redo.
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
     const QString typed = event->text();
@@ -83,7 +83,7 @@ void TextBox::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
-/// Composed text is told to the validator too late: the line edit reports its new place first.
+/// Composed text is filtered before the line edit sees it, which reports the new cursor before it asks the validator.
 void TextBox::inputMethodEvent(QInputMethodEvent* event)
 {
     if (event->replacementLength() > 0)
@@ -118,7 +118,7 @@ WordBox::WordBox(QWidget* parent)
 void WordBox::keyPressEvent(QKeyEvent* event)
 {
     const bool control = event->modifiers().testFlag(Qt::ControlModifier) &&
-                         !event->modifiers().testFlag(Qt::AltModifier); // both together are AltGr
+                         !event->modifiers().testFlag(Qt::AltModifier); // with Alt it is AltGr
     if (control && event->key() >= Qt::Key_At && event->key() <= Qt::Key_Underscore)
         event->ignore(); // for the window
     else
@@ -130,6 +130,6 @@ void WordBox::contextMenuEvent(QContextMenuEvent* event)
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (QAction* action : menu->actions())
-        action->setText(action->text().section('\t', 0, 0)); // its keys do nothing here
+        action->setText(action->text().section('\t', 0, 0)); // this box ignores their keys
     menu->popup(event->globalPos());
 }

@@ -6,9 +6,9 @@
 
 class TextValidator;
 
-/// A text box that takes only what its rule admits from the user, typed, composed, pasted or dropped. What is
-/// discarded changes nothing, selection and undo included; a paste of which a part is discarded leaves nothing to
-/// undo. What the program sets stays as it is, and so does what undo brings back.
+/// A text box that takes from the user only what its rule admits, whether typed, composed, pasted or dropped.
+/// Discarded text changes nothing, neither selection nor undo. After a paste that loses a part there is nothing to
+/// undo. The rule applies neither to texts that the program sets nor to undo.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     TextBox(const wordlist::TextRule& rule, QWidget* parent);
 
 signals:
-    void Clicked(); ///< by any mouse button, before the click does what it does
+    void Clicked(); ///< with any mouse button, before the click takes effect
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -28,8 +28,8 @@ private:
     TextValidator* Validator;
 };
 
-/// The box for words. It discards control-key combinations, the clipboard's among them, as it discards any
-/// character that no word has; text is pasted with its context menu.
+/// The box for words. It discards control-key combinations, like any character that no word has. Users paste with the
+/// context menu.
 class WordBox : public TextBox {
     Q_OBJECT
 

@@ -5,9 +5,9 @@
 namespace {
 
 constexpr double SmallestPoints = 7;
-constexpr qsizetype LongestShown = 300; ///< characters; more has no room in any title's label
+constexpr qsizetype LongestShown = 300; ///< characters; no label has room for more
 
-/// Lines end between words, or within a word that is wider than the label.
+/// Lines break between words, and inside a word that is wider than the label.
 bool Fits(QPainter& painter, const QRect& room, const QString& text, const QTextOption& lines)
 {
     const QRectF needed = painter.boundingRect(room, text, lines);

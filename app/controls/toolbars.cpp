@@ -11,14 +11,14 @@ QToolBar* MakeToolbar(const char* name, const QString& accessibleName, const std
     auto* toolbar = new QToolBar(&client);
     toolbar->setObjectName(name);
     toolbar->setAccessibleName(accessibleName);
-    toolbar->layout()->setContentsMargins({}); // room for icons of their full size
+    toolbar->layout()->setContentsMargins({}); // or icons shrink
     toolbar->setIconSize(QSize(16, 16));
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const ToolbarButton& button : buttons) {
         const QString key = button.key;
         QAction* action = toolbar->addAction(icons::ForToolbar(key.toLower()), button.tooltip);
         action->setObjectName(key);
-        toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // the keyboard reaches it too
+        toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // in the tab order
         QObject::connect(action, &QAction::triggered, toolbar,
                          [clicked, index = static_cast<int>(toolbar->actions().size())] {
                              if (CommandsMayStart())

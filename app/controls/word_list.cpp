@@ -16,7 +16,7 @@ WordList::WordList(QWidget* parent) : QListWidget(parent)
 {
     setWrapping(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setViewportMargins(1, 1, 1, 1); // at fractional scales the entries' ground would cover the border
+    setViewportMargins(1, 1, 1, 1); // at fractional scales entries would cover the border
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
 }
@@ -33,7 +33,7 @@ std::vector<std::u16string> WordList::Words() const
 void WordList::Insert(int position, const QString& word)
 {
     auto* entry = new QListWidgetItem(word);
-    // A word may be cut short by its column. The tags make sure of a rich text, which shows the escaped one.
+    // The column may cut the word. The tags force rich text, so that the escaped word shows unchanged.
     entry->setToolTip(QString("<span>%1</span>").arg(word.toHtmlEscaped()));
     entry->setSizeHint(gridSize());
     insertItem(position, entry);
@@ -58,7 +58,7 @@ int WordList::SelectedPosition() const
     return selected.isEmpty() ? -1 : selected.first().row();
 }
 
-/// Only a file brings more than the columns hold. A bar shown as needed would take its room all the time.
+/// Only a file holds more words than the columns. A bar shown "as needed" would reserve its room all the time.
 void WordList::updateGeometries()
 {
     setHorizontalScrollBarPolicy(count() > Columns * Rows ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
@@ -68,10 +68,10 @@ void WordList::updateGeometries()
 void WordList::resizeEvent(QResizeEvent* event)
 {
     QListWidget::resizeEvent(event);
-    // A column that fills the height to the last pixel would lose its last row to the next one.
+    // A column that fills the height to the last pixel loses its last row to the next column.
     setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
     for (int i = 0; i < count(); ++i)
-        item(i)->setSizeHint(gridSize()); // else it stands at its cell's top
+        item(i)->setSizeHint(gridSize()); // or it moves to the top of its cell
 }
 
 void WordList::mousePressEvent(QMouseEvent* event)
@@ -83,14 +83,14 @@ void WordList::mousePressEvent(QMouseEvent* event)
 void WordList::keyPressEvent(QKeyEvent* event)
 {
     const bool space = event->key() == Qt::Key_Space;
-    const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown; // arrows among them
+    const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown; // the arrows too
     if (!space)
         QListWidget::keyPressEvent(event);
     if (space || (moves && !event->modifiers().testFlag(Qt::ControlModifier)))
         Choose(currentRow());
 }
 
-/// A letter leads to the next entry that begins with it.
+/// A letter chooses the next entry that begins with it.
 void WordList::keyboardSearch(const QString& search)
 {
     const QModelIndex next = model()->index((currentRow() + 1) % std::max(count(), 1), 0);

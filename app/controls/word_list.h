@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
-/// The list of words in four columns of ten, top to bottom, the left column first. It is the only store of
-/// the document's words. Positions count from 0.
+/// The list of words in four columns of ten, filled from top to bottom, the left column first. It is the only store
+/// of the document's words. Positions count from 0.
 ///
-/// The current entry is the one that the user looks at, the selected one the one last chosen. A click chooses. A key
-/// moves the current entry; without Ctrl, the entry where it ends is chosen. The space bar chooses without moving.
+/// The user looks at the current entry; the selected entry is the one chosen last. A click chooses an entry. A key
+/// moves the current entry and, without Ctrl, chooses it, even when it is the selected one. The space bar chooses in
+/// place.
 class WordList : public QListWidget {
     Q_OBJECT
 
@@ -18,14 +19,14 @@ public:
 
     std::vector<std::u16string> Words() const;
     void Insert(int position, const QString& word);
-    /// Removes an entry; the selected one leaves no selection behind.
+    /// Removes an entry. If it was selected, no other entry becomes selected.
     void Remove(int position);
-    /// Puts `word` in an entry's place, which is still looked at, but no longer selected.
+    /// Replaces an entry with `word`. It stays current, but is no longer selected.
     void Replace(int position, const QString& word);
     int SelectedPosition() const; ///< -1 when nothing is selected
 
 signals:
-    /// The user chose an entry, which is selected now; it may have been before.
+    /// The user chose the entry at `position`, perhaps once more.
     void Chosen(int position);
 
 protected:

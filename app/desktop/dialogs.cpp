@@ -7,7 +7,7 @@
 
 namespace {
 
-/// As the user would: a menu bar then gives the focus back.
+/// Closes menus like the user would: the menu bar then gives the focus back.
 void CloseMenus()
 {
     while (QWidget* menu = QApplication::activePopupWidget())
@@ -38,11 +38,13 @@ DialogKeeper::DialogKeeper()
 bool DialogKeeper::eventFilter(QObject* object, QEvent* event)
 {
     const bool shows = event->type() == QEvent::Show;
-    const bool shown = event->type() == QEvent::ShowToParent; // by now a message box has fixed its size
-    auto* dialog = shows || shown ? qobject_cast<QDialog*>(object) : nullptr;
+    const bool fixesItsSize = event->type() == QEvent::ShowToParent || event->type() == QEvent::LayoutRequest;
+    auto* dialog = shows || fixesItsSize ? qobject_cast<QDialog*>(object) : nullptr;
     if (dialog != nullptr && shows)
         CloseMenus();
-    if (dialog != nullptr && shown && AnyWindowMayGrow())
-        dialog->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (dialog != nullptr && fixesItsSize && AnyWindowMayGrow()) {
+        const auto letGrow = [dialog] { dialog->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); };
+        QMetaObject::invokeMethod(dialog, letGrow, Qt::QueuedConnection);
+    }
     return false;
 }

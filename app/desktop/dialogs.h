@@ -2,13 +2,12 @@
 
 #include <QObject>
 
-/// Whether a command may start: not while a box or a dialog is open. Keys that were pressed before it came up can
-/// still reach the window below it.
+/// False while a dialog is open. Keys pressed before it opened can still reach the window below it.
 bool CommandsMayStart();
 
-/// Sees to every dialog that opens while it lives, the toolkit's own among them. A menu that is open closes: it would
-/// keep the keyboard. Under Wayland a dialog may grow: some compositors offer to maximise it, and end a program whose
-/// window does not follow.
+/// Looks after every dialog that opens during its lifetime, including the toolkit's own. It closes open menus, which
+/// would keep the keyboard. Under Wayland it lets dialogs grow: some compositors offer to maximise them and kill a
+/// program whose window then keeps its size.
 class DialogKeeper : public QObject {
 public:
     DialogKeeper();
@@ -17,5 +16,5 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 };
 
-/// Whether the desktop may maximise any window, whatever the window says.
+/// Whether the desktop may maximise windows that do not offer it.
 bool AnyWindowMayGrow();

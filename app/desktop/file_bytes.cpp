@@ -7,10 +7,10 @@ namespace file_bytes {
 
 namespace {
 
-/// Where a chain of links ends, be there a file or not; a circle of links ends at one of them.
+/// Follows symbolic links to their end, which need not exist; stops after 40, as desktops do.
 QString EndOfLinks(const QString& path)
 {
-    constexpr int LongestChain = 40; // as desktops have it
+    constexpr int LongestChain = 40;
     QFileInfo there(path);
     for (int links = 0; there.isSymLink() && links < LongestChain; ++links)
         there.setFile(there.symLinkTarget());
@@ -22,7 +22,7 @@ bool Overwrite(QFile& file, const QByteArray& bytes)
     return file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size());
 }
 
-/// Into a file that is there. What it held is put back should the new contents find no room: its own room it has.
+/// Overwrites an existing file. If the new contents find no room, the old ones go back: they still have theirs.
 bool WriteInPlace(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
@@ -53,7 +53,7 @@ bool Save(const QString& path, const std::string& bytes)
         return false;
     const QByteArray contents = QByteArray::fromStdString(bytes);
     QSaveFile file(target);
-    // Asked for outright: the flush within commit() may fail unnoticed, and then puts an empty file in place.
+    // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
     if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
         return true;
     const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;

@@ -4,16 +4,15 @@
 
 #include <string>
 
-/// The bytes of the user's files. Devices and pipes can go on for ever or wait for ever, and a folder is no file:
-/// none of them is touched.
+/// Reads and writes the user's files, and regular files only: devices and pipes may never end.
 namespace file_bytes {
 
-/// The first `most` bytes of the regular file at `path`, or all where it is shorter; empty when it cannot be read.
+/// Returns up to `most` bytes from the start of the file at `path`; none when it cannot be read.
 std::string Read(const QString& path, std::size_t most);
 
-/// Puts a file of `bytes` at `path`, or what a link there leads to. The new contents are written beside the old
-/// ones and take their place when complete; only where the folder takes no new file, or none in that place, are
-/// they written over them. False when that fails: an earlier file is then what it was, to the byte.
+/// Saves `bytes` at `path`, or where a link there leads. The new file is written beside the old one and replaces it
+/// when complete. Only if the folder does not allow that, the old file is overwritten. False on failure: the old file
+/// is then unchanged to the byte.
 bool Save(const QString& path, const std::string& bytes);
 
 } // namespace file_bytes

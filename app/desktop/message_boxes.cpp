@@ -4,7 +4,7 @@ namespace message_boxes {
 
 namespace {
 
-/// Escape answers Cancel where there is one, else No, else the only button.
+/// Escape means Cancel if there is such a button, else No, else the only button.
 QMessageBox::StandardButton Ask(QWidget* owner, const QString& text, const QString& title,
                                 QMessageBox::StandardButtons buttons)
 {

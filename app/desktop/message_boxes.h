@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-/// The program's message boxes: modal, plain text, no icon; closing one counts as its most cautious button.
+/// The program's message boxes: modal, plain text, no icon. Closing one means its most cautious button.
 namespace message_boxes {
 
 void Tell(QWidget* owner, const QString& text, const QString& title = program::Name);

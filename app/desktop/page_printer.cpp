@@ -18,7 +18,7 @@ QString ToQString(std::u16string_view text)
     return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// A pixel of the font is a twip, so that its metrics are the same whatever the printer's own resolution.
+/// One pixel of the font is one twip, so its metrics do not depend on the printer's resolution.
 QFont ToQFont(const view::PageFont& font)
 {
     QFont there(QString::fromUtf16(font.name));
@@ -72,8 +72,8 @@ bool PrintPage(QPrinter& printer, const QString& title, std::span<const std::u16
                const generator::PuzzleWorkspace& workspace)
 {
     printer.setFullPage(true);
-    printer.setPageOrientation(QPageLayout::Portrait); // whatever was chosen
-    printer.setPageMargins({}); // printers of Windows count from their margins, full page or not
+    printer.setPageOrientation(QPageLayout::Portrait); // whatever the user chose
+    printer.setPageMargins({}); // on Windows, printers count from their margins even on a full page
     const QSizeF sheet = printer.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
     if (sheet.isEmpty())
         return false;

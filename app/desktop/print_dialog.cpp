@@ -22,7 +22,7 @@ QString ProposedPdf(const QString& title)
 }
 
 #ifdef Q_OS_WIN
-/// Where there is no printer: this desktop's print dialog knows nothing else.
+/// Without a printer, Windows has no print dialog to show.
 bool AskForPdf(QPrinter& printer, QWidget& owner)
 {
     const QString path = FileDialog::Ask(QFileDialog::AcceptSave, {{"PDF Files (*.pdf)", "*.pdf"}}, UsersDocuments(),
@@ -43,7 +43,7 @@ bool RunPrintDialog(QPrinter& printer, QWidget& owner)
 #else
     printer.setOutputFileName(ProposedPdf(printer.docName()));
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
-        printer.setOutputFormat(QPrinter::NativeFormat); // the file is only proposed
+        printer.setOutputFormat(QPrinter::NativeFormat); // the file is only a proposal
 #endif
     QPrintDialog dialog(&printer, &owner);
     dialog.setObjectName(DialogName);

@@ -3,7 +3,6 @@
 class QPrinter;
 class QWidget;
 
-/// Shows the desktop's print dialog over `owner` and lets it settle `printer`. False when the user cancelled.
-/// To those who print to a file, and where there is no printer at all, it proposes a PDF named after the
-/// document in the user's documents folder.
+/// Shows the desktop's print dialog over `owner`, which sets up `printer`. False when the user cancels. For printing
+/// to a file it proposes a PDF in the user's documents folder, named after the document.
 bool RunPrintDialog(QPrinter& printer, QWidget& owner);
