@@ -9,7 +9,7 @@ namespace wordlist {
 
 namespace {
 
-// A file may hold very long words and a hundred of them: the message must still fit a screen.
+// The message must fit a screen even when a file holds a hundred very long words.
 constexpr std::size_t NamedCharacters = 40;
 constexpr std::size_t NamedWords = 15;
 
@@ -29,13 +29,15 @@ std::u16string Named(const std::u16string& word)
 
 bool LacksLetter(const std::u16string& word)
 {
-    const auto isLetter = [](char16_t character) { return GridLetter(character).has_value(); };
-    return std::ranges::none_of(word, isLetter) && word.find_first_not_of(u' ') != std::u16string::npos;
+    return std::ranges::none_of(word, [](auto character) { return GridLetter(character).has_value(); }) &&
+           word.find_first_not_of(u' ') != std::u16string::npos;
 }
 
-/// One paragraph of the message: the demand, then the words that it concerns.
+/// One paragraph of the message: what to do, then the words it applies to. Empty when there are no such words.
 std::u16string Demand(const std::u16string& demand, std::span<const std::u16string> words)
 {
+    if (words.empty())
+        return {};
     std::u16string text = u"\n\n" + demand + u"\n";
     for (const std::u16string& word : words.first(std::min(words.size(), NamedWords)))
         text += (&word == words.data() ? u"" : u", ") + Named(word);
@@ -44,8 +46,7 @@ std::u16string Demand(const std::u16string& demand, std::span<const std::u16stri
     return text;
 }
 
-template <class Condition>
-std::vector<std::u16string> Select(std::span<const std::u16string> words, Condition condition)
+std::vector<std::u16string> Select(std::span<const std::u16string> words, bool (*condition)(const std::u16string&))
 {
     std::vector<std::u16string> selected;
     std::ranges::copy_if(words, std::back_inserter(selected), condition);
@@ -56,18 +57,14 @@ std::vector<std::u16string> Select(std::span<const std::u16string> words, Condit
 
 std::optional<std::u16string> ObstacleToPuzzle(std::span<const std::u16string> words)
 {
-    std::u16string demands;
-    if (words.size() > MaxWords)
-        demands += Demand(u"It holds " + Number(words.size()) + u" words, and a puzzle has room for " +
-                              Number(MaxWords) + u". Please remove " + Number(words.size() - MaxWords) +
-                              u"; these stand after the last that fits:",
-                          words.subspan(MaxWords));
-    const auto tooLong = Select(words, [](const auto& word) { return word.size() > MaxWordLength; });
-    if (!tooLong.empty())
-        demands += Demand(u"Please shorten to " + Number(MaxWordLength) + u" characters:", tooLong);
-    const auto letterless = Select(words, LacksLetter);
-    if (!letterless.empty())
-        demands += Demand(u"Please remove, or give a letter to hide:", letterless);
+    const auto surplus = words.subspan(std::min<std::size_t>(words.size(), MaxWords));
+    const std::u16string demands =
+        Demand(u"It holds " + Number(words.size()) + u" words, and a puzzle has room for " + Number(MaxWords) +
+                   u". Please remove " + Number(surplus.size()) + u"; these stand after the last that fits:",
+               surplus) +
+        Demand(u"Please shorten to " + Number(MaxWordLength) + u" characters:",
+               Select(words, [](const auto& word) { return word.size() > MaxWordLength; })) +
+        Demand(u"Please remove, or give a letter to hide:", Select(words, LacksLetter));
     if (demands.empty())
         return std::nullopt;
     return u"This word list cannot become a puzzle yet." + demands;

@@ -16,15 +16,12 @@ char16_t AlphabetKey(char16_t character)
 
 } // namespace
 
-bool StandsBefore(std::u16string_view left, std::u16string_view right)
-{
-    return std::ranges::lexicographical_compare(left, right, {}, AlphabetKey, AlphabetKey);
-}
-
 std::size_t InsertPosition(std::span<const std::u16string> words, std::u16string_view word)
 {
-    const auto place = std::ranges::upper_bound(words, word, StandsBefore);
-    return static_cast<std::size_t>(place - words.begin());
+    const auto standsBefore = [](std::u16string_view left, std::u16string_view right) {
+        return std::ranges::lexicographical_compare(left, right, {}, AlphabetKey, AlphabetKey);
+    };
+    return static_cast<std::size_t>(std::ranges::upper_bound(words, word, standsBefore) - words.begin());
 }
 
 } // namespace wordlist

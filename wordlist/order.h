@@ -7,12 +7,9 @@
 
 namespace wordlist {
 
-/// Whether `left` stands before `right` in the alphabet, letter case and accents ignored; a blank stands
-/// before every letter.
-bool StandsBefore(std::u16string_view left, std::u16string_view right);
-
-/// The position 0..words.size() at which a binary search inserts `word`: its alphabetical place, after
-/// entries that compare equal, when `words` is in order; some position within the list when it is not.
+/// Returns the index 0..words.size() at which a binary search inserts `word` in alphabetical order, after equal
+/// entries. The order ignores letter case and accents, and a space comes before every letter. If `words` is not in
+/// order, the index is valid but the place is arbitrary.
 std::size_t InsertPosition(std::span<const std::u16string> words, std::u16string_view word);
 
 } // namespace wordlist

@@ -6,18 +6,18 @@
 
 namespace wordlist {
 
-/// Which characters a text box takes from the user, and how many.
+/// Which characters the user may enter in a text box, and how many.
 struct TextRule {
     bool (*takes)(char16_t character, bool boxIsEmpty);
-    std::size_t limit; ///< characters the user can fill the box to; a longer text set by the program stays
+    std::size_t limit; ///< characters; a longer text that the program sets is kept
 };
 
-/// The word box: A to Z, a to z and spaces, but no space at the start.
+/// The rule of the word box: A to Z, a to z and spaces, but no space at the start.
 bool TakesInWord(char16_t character, bool boxIsEmpty);
 
-/// What of `text` enters a box that shows `shown` characters, of which `selected` are selected: what typing its
-/// characters one after the other would give, line ends and tabs as spaces. It takes the place of what is selected,
-/// unless it is empty: then nothing changes.
+/// Returns the part of `text` that a box accepts when it shows `shown` characters, `selected` of them selected: the
+/// same as typing the characters one by one. Line ends and tabs count as spaces. The result replaces the selection;
+/// an empty result changes nothing.
 std::u16string Admit(std::u16string_view text, std::size_t shown, std::size_t selected, const TextRule& rule);
 
 } // namespace wordlist
