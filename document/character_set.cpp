@@ -6,7 +6,7 @@ namespace document {
 
 namespace {
 
-// Bytes 0x80 to 0x9F, as the Unicode consortium's CP1252.TXT maps them; the rest of the set is Latin-1.
+// Bytes 0x80 to 0x9F, from the Unicode Consortium's table CP1252.TXT. All other bytes are Latin-1.
 constexpr std::u16string_view MiddleCharacters = u"\u20AC\x81\u201A\u0192\u201E\u2026\u2020\u2021"
                                                  u"\u02C6\u2030\u0160\u2039\u0152\x8D\u017D\x8F"
                                                  u"\x90\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
@@ -14,11 +14,6 @@ constexpr std::u16string_view MiddleCharacters = u"\u20AC\x81\u201A\u0192\u201E\
 constexpr char16_t MiddleStart = 0x80;
 constexpr char16_t MiddleEnd = 0xA0;
 static_assert(MiddleCharacters.size() == MiddleEnd - MiddleStart);
-
-bool IsControl(char16_t character)
-{
-    return character < u' ' || (character >= 0x7F && character < MiddleEnd);
-}
 
 } // namespace
 
@@ -39,7 +34,8 @@ std::optional<char> EncodeCharacter(char16_t character)
 
 bool TakesInTitle(char16_t character, bool /*boxIsEmpty*/)
 {
-    return !IsControl(character) && EncodeCharacter(character);
+    const bool control = character < u' ' || (character >= 0x7F && character < MiddleEnd);
+    return !control && EncodeCharacter(character);
 }
 
 } // namespace document

@@ -3,6 +3,7 @@
 #include "document/character_set.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace document {
 
@@ -10,69 +11,27 @@ namespace {
 
 constexpr std::u16string_view OlderMarker = u"Glyphgrove2.1";
 
-/// Takes the fields of a file one after another. A field ends at a comma or a line end (LF, CR LF or CR).
-class FieldReader {
-public:
-    explicit FieldReader(std::string_view bytes) : Bytes(bytes.substr(0, MaxFileBytes)) {}
-
-    /// The next field's text, or nothing when the file ends before the field does.
-    std::optional<std::u16string> Next();
-
-private:
-    std::optional<std::u16string> Quoted();
-    std::optional<std::u16string> Unquoted();
-    bool AtEnd() const { return Position == Bytes.size(); }
-    bool AtFieldEnd() const;
-    void SkipFieldEnd();
-
-    std::string_view Bytes;
-    std::size_t Position = 0;
-};
-
-std::optional<std::u16string> FieldReader::Next()
+/// Reads the field at `position` and moves `position` past it. A field ends at a comma or at a line end (LF, CR LF or
+/// CR). Returns std::nullopt, once and for all, when the bytes end before the field does.
+std::optional<std::u16string> NextField(std::string_view bytes, std::size_t& position)
 {
-    Position = std::min(Bytes.find_first_not_of(' ', Position), Bytes.size());
-    if (AtEnd())
+    constexpr std::string_view FieldEnds = ",\r\n";
+    position = bytes.find_first_not_of(' ', position);
+    if (position == std::string_view::npos)
         return std::nullopt;
-    auto field = Bytes[Position] == '"' ? Quoted() : Unquoted();
-    SkipFieldEnd();
-    return field;
-}
-
-std::optional<std::u16string> FieldReader::Quoted()
-{
+    const bool quoted = bytes[position] == '"';
+    const std::size_t start = position + (quoted ? 1 : 0);
+    const std::size_t stop = bytes.find_first_of(quoted ? "\"" : FieldEnds, start);
+    if (stop == std::string_view::npos && (quoted || bytes.size() == MaxFileBytes))
+        return std::nullopt; // the rest of the field may lie beyond the limit
+    std::string_view field = bytes.substr(start, stop - start);
+    if (!quoted)
+        field = field.substr(0, field.find_last_not_of(' ') + 1);
+    const std::size_t end = std::min(bytes.find_first_of(FieldEnds, stop), bytes.size());
+    position = end + (bytes.substr(end, 2) == "\r\n" ? 2 : 1);
     std::u16string text;
-    for (++Position; !AtEnd(); ++Position) {
-        if (Bytes[Position] == '"') {
-            while (!AtEnd() && !AtFieldEnd())
-                ++Position;
-            return text;
-        }
-        text += DecodeCharacter(Bytes[Position]);
-    }
-    return std::nullopt;
-}
-
-std::optional<std::u16string> FieldReader::Unquoted()
-{
-    std::u16string text;
-    for (; !AtEnd() && !AtFieldEnd(); ++Position)
-        text += DecodeCharacter(Bytes[Position]);
-    if (Position == MaxFileBytes)
-        return std::nullopt; // there may be more of it
-    text.erase(text.find_last_not_of(u' ') + 1);
+    std::ranges::transform(field, std::back_inserter(text), DecodeCharacter);
     return text;
-}
-
-bool FieldReader::AtFieldEnd() const
-{
-    return std::string_view(",\r\n").find(Bytes[Position]) != std::string_view::npos;
-}
-
-void FieldReader::SkipFieldEnd()
-{
-    const bool pair = Bytes.compare(Position, 2, "\r\n") == 0;
-    Position = std::min(Position + (pair ? 2 : 1), Bytes.size());
 }
 
 Marker MarkerOf(const std::optional<std::u16string>& field)
@@ -96,13 +55,14 @@ void AppendRecord(std::string& file, std::u16string_view text)
 
 PuzzleFile ReadPuzzle(std::string_view bytes)
 {
-    FieldReader reader(bytes);
-    PuzzleFile file{MarkerOf(reader.Next()), {}, {}};
+    bytes = bytes.substr(0, MaxFileBytes);
+    std::size_t position = 0;
+    PuzzleFile file{MarkerOf(NextField(bytes, position)), {}, {}};
     if (file.marker != Marker::Current && file.marker != Marker::Older)
         return file;
-    file.title = reader.Next();
+    file.title = NextField(bytes, position);
     while (file.title && file.words.size() < MaxRecords) {
-        auto word = reader.Next();
+        auto word = NextField(bytes, position);
         if (!word || word->empty())
             break;
         file.words.push_back(std::move(*word));
