@@ -1,10 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 namespace generator {
 
-/// How the cursor moves from one letter of a word to the next; rows count downwards, columns rightwards.
+/// The move from one letter of a word to the next. Rows count downwards, columns to the right.
 struct Step {
     int row;
     int column;
@@ -12,7 +13,7 @@ struct Step {
 
 inline constexpr int DirectionCount = 8;
 
-/// The steps of directions 1..DirectionCount; index 0 is the direction of no word.
+/// The steps of directions 1..DirectionCount; index 0 is unused.
 inline constexpr std::array<Step, DirectionCount + 1> Directions{{
     {0, 0},
     {+1, 0},  // downwards
@@ -25,6 +26,7 @@ inline constexpr std::array<Step, DirectionCount + 1> Directions{{
     {-1, -1}, // up and to the left
 }};
 
+/// Returns the step of a direction 1..DirectionCount; not checked.
 inline const Step& StepOf(int direction)
 {
     return Directions[static_cast<std::size_t>(direction)];

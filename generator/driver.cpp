@@ -19,8 +19,8 @@ void PuzzleWorkspace::LoadPuzzleArray()
     FillPuzzle();
 }
 
-/// One pass through all word slots, the empty ones beyond the end of the list included: they cost an attempt and
-/// write nothing. False as soon as a word has missed too often.
+/// Makes one pass over all word slots. The empty ones after the end of the list also cost an attempt each, but write
+/// nothing. Returns false as soon as a word has missed too often.
 bool PuzzleWorkspace::PlaceAllWords()
 {
     int missCount = 0;
@@ -30,8 +30,8 @@ bool PuzzleWorkspace::PlaceAllWords()
     return true;
 }
 
-/// Attempts at one word until a pseudo pass meets no clash. The attempt after the last allowed miss is made but not
-/// used. A word that fills all its slots leaves the misses standing for the words after it.
+/// Tries placements for one word until it meets no clash. After the last allowed miss it makes one more attempt but
+/// does not use it. A word that fills all its slots does not reset the count of misses for the next word.
 bool PuzzleWorkspace::PlaceWord(int& missCount)
 {
     constexpr int MissesBeforeRestart = 50;
@@ -62,10 +62,8 @@ void PuzzleWorkspace::TakeWord(int word)
 void PuzzleWorkspace::WriteWord()
 {
     const auto move = [this] { CurrentDirection(); };
-    WalkWord(CurrentWord, LetterIndex, move, [this](char letter) {
-        PuzzleArray(CurrentRow, CurrentColumn) = letter;
-        return true;
-    });
+    const auto write = [this](char letter) { return PuzzleArray(CurrentRow, CurrentColumn) = letter, true; };
+    WalkWord(CurrentWord, LetterIndex, move, write);
 }
 
 } // namespace generator

@@ -6,16 +6,17 @@
 namespace generator {
 
 inline constexpr char Empty = '\0'; ///< an empty slot or cell
-inline constexpr char Blank = ' ';  ///< a character of a word that takes no cell
+inline constexpr char Blank = ' ';  ///< a space or other character that takes no cell
 
-/// A table of letters with rows 0..LastRow and columns 0..LastColumn, all Empty at first.
+/// A table of letters with rows 0..LastRow and columns 0..LastColumn, initially Empty. An index past the last cell
+/// throws std::out_of_range; a column past the end of a row is not detected.
 template <int LastRow, int LastColumn>
 class LetterTable {
 public:
     char& operator()(int row, int column) { return Letters.at(Index(row, column)); }
     char operator()(int row, int column) const { return Letters.at(Index(row, column)); }
 
-    /// Empties rows 1..rows by columns 1..columns and nothing else.
+    /// Empties rows 1..rows of columns 1..columns.
     void Clear(int rows = LastRow, int columns = LastColumn)
     {
         for (int row = 1; row <= rows; ++row)

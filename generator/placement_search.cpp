@@ -32,7 +32,7 @@ void PuzzleWorkspace::TestWordForFit()
     WordFits = fits(CurrentRow, StepOf(Direction).row) && fits(CurrentColumn, StepOf(Direction).column);
 }
 
-/// The first and the last row, or column, from which the cell after the word's last is still inside.
+/// Returns the first and last row (or column) from which the cell after the word's end is still inside the grid.
 std::pair<int, int> PuzzleWorkspace::Starts(int step) const
 {
     return {std::max(1, 1 - step * WordLength), std::min(PuzzleSize, PuzzleSize - step * WordLength)};
@@ -53,11 +53,11 @@ void PuzzleWorkspace::PseudoCurrentDirection()
 void PuzzleWorkspace::PseudoLoadPuzzleArray()
 {
     PseudoFits = true;
-    int SharedLetters = 0;
+    int sharedLetters = 0;
     const auto move = [this] { PseudoCurrentDirection(); };
     WalkWord(PseudoWord, PseudoLetter, move, [&](char letter) {
         const char cell = PuzzleArray(PseudoRow, PseudoColumn);
-        PseudoFits = cell == Empty || (cell == letter && ++SharedLetters == 1);
+        PseudoFits = cell == Empty || (cell == letter && ++sharedLetters == 1);
         return PseudoFits;
     });
 }

@@ -7,7 +7,7 @@ namespace generator {
 
 namespace {
 
-constexpr std::uint64_t Increment = 0x9E3779B97F4A7C15U; // 2^64 over the golden ratio, odd
+constexpr std::uint64_t Increment = 0x9E3779B97F4A7C15U; // 2^64 / golden ratio, made odd
 
 std::uint64_t Mix(std::uint64_t bits)
 {
@@ -34,7 +34,8 @@ float RandomSource::Draw()
 
 int RandomSource::DrawBelow(int count)
 {
-    return static_cast<int>(static_cast<double>(count) * static_cast<double>(Draw())); // exact: no u rounds up
+    return static_cast<int>(static_cast<double>(count) *
+                            static_cast<double>(Draw())); // exact, so it never reaches count
 }
 
 std::uint64_t RandomSource::SystemClock()

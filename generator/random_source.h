@@ -5,23 +5,22 @@
 
 namespace generator {
 
-/// The source of all chance in a puzzle: a 64-bit mixing generator (Sebastiano Vigna's SplitMix64), seeded from a
-/// clock and the same on every platform. Copying it copies its state: both copies go on alike.
+/// The random numbers of a puzzle: the 64-bit generator SplitMix64, with Sebastiano Vigna's constants. It is seeded
+/// from a clock and gives the same numbers on every platform. A copy continues with the same numbers.
 class RandomSource {
 public:
     using Clock = std::function<std::uint64_t()>;
 
-    /// Takes its first seed from `clock`, and one reading more for each Reseed.
+    /// Reads `clock` once now and once in every Reseed.
     explicit RandomSource(Clock clock = SystemClock);
 
-    /// Folds a clock reading into the state. Numbers already drawn do not come again, however often this is called
-    /// within one tick of the clock.
+    /// Mixes a clock reading into the state. The sequence does not start over, even when the clock has not advanced.
     void Reseed();
 
-    /// A number u with 0 <= u < 1, also at single precision: 24 random bits.
+    /// Returns a number u, 0 <= u < 1, made of 24 random bits.
     float Draw();
 
-    /// floor(count * u) of the next u: 0..count - 1 with equal chances; `count` is positive and below 2^24.
+    /// Returns floor(count * u) for the next u: 0..count - 1, equally likely. `count` must be 1..2^24 - 1.
     int DrawBelow(int count);
 
 private:

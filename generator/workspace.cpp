@@ -23,7 +23,7 @@ void PuzzleWorkspace::LoadWordsArray(std::span<const std::u16string> words)
 
 void PuzzleWorkspace::SetPuzzleSize()
 {
-    const int cells = (7 * LetterCount + 2) / 4; // 1.75 cells a letter, to the nearest whole
+    const int cells = (7 * LetterCount + 2) / 4; // 1.75 cells per letter, rounded
     PuzzleSize = MinPuzzleSize;
     while (PuzzleSize < MaxPuzzleSize && PuzzleSize * PuzzleSize < cells)
         ++PuzzleSize;
