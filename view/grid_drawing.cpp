@@ -12,14 +12,12 @@ double GridSpacing(int size, double surfaceWidth)
 std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, int surfaceWidth)
 {
     const int size = workspace.PuzzleSize;
+    const double spacing = GridSpacing(size, surfaceWidth);
     std::vector<DrawnLetter> letters;
     for (int row = 1; row <= size; ++row) {
-        const double spacing = GridSpacing(size, surfaceWidth);
-        const double y = std::nearbyint(row * spacing); // halves go to the even neighbour
-        for (int column = 1; column <= size; ++column) {
-            const auto x = static_cast<float>(column * spacing);
-            letters.push_back({workspace.PuzzleArray(row, column), x, y});
-        }
+        const double y = std::nearbyint(row * spacing); // ties go to even
+        for (int column = 1; column <= size; ++column)
+            letters.push_back({workspace.PuzzleArray(row, column), static_cast<float>(column * spacing), y});
     }
     return letters;
 }

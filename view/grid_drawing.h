@@ -6,19 +6,19 @@
 
 namespace view {
 
-/// A letter of the grid and where it is written.
+/// A letter of the grid and its place on the surface.
 struct DrawnLetter {
     char letter;
-    double x; ///< left edge in twips from the surface's left, not rounded
-    double y; ///< top edge in twips from the surface's top, whole
+    double x; ///< left edge in twips (1/1440 inch), of single precision
+    double y; ///< top edge in whole twips
 };
 
-/// The distance between the letters of a grid of `size` rows on a square surface of `surfaceWidth`: they take four
-/// fifths of it.
+/// Returns the distance between letters, in the unit of `surfaceWidth`, for a grid of `size` rows on a square
+/// surface. The grid takes four fifths of the width. Infinite when `size` is 0.
 double GridSpacing(int size, double surfaceWidth);
 
-/// The letters of the grid, row by row, on a square surface of `surfaceWidth` twips: cell (r, c) is c spacings from
-/// the left and r from the top. Empty while there is no grid.
+/// Places the letters of the grid, row by row, on a square surface of `surfaceWidth` twips. Cell (r, c), counted from
+/// 1, lies c spacings from the left and r from the top. Empty while there is no grid.
 std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, int surfaceWidth);
 
 } // namespace view

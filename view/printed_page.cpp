@@ -15,19 +15,12 @@ constexpr std::size_t WordsPerColumn = 10;
 constexpr double ColumnGap = 1080;
 constexpr double BoxMargin = 504;
 constexpr double BoxTop = 1584;
-constexpr double BoxLines = 11; ///< the words' lines and one more
+constexpr double BoxLines = 11; ///< ten lines of words and one more
 constexpr double GridGap = 288; ///< from the lines of the box to the grid
 constexpr double GridWidth = 8640;
 constexpr double MaxGridFontSize = 14;
 
-void LayOutTitle(Page& page, const PageMetrics& printer, std::u16string_view title)
-{
-    const PageFont font{u"Times New Roman", 26, true, true};
-    page.texts.push_back(
-        {font, printer.width / 2 - printer.textWidth(font, title) / 2, TitleTop, std::u16string(title)});
-}
-
-/// A column starts to the right of the widest word of the one before.
+/// Each column starts to the right of the widest word of the column before it.
 void LayOutWords(Page& page, const PageMetrics& printer, const PageFont& font, double lineStep,
                  std::span<const std::u16string> words)
 {
@@ -44,7 +37,7 @@ void LayOutWords(Page& page, const PageMetrics& printer, const PageFont& font, d
     }
 }
 
-/// Letters of half a cell's step, but no larger than MaxGridFontSize: the step then follows the size in effect.
+/// The font is half as high as a cell. Where that exceeds MaxGridFontSize, the cells shrink to match the font.
 void LayOutGrid(Page& page, const PageMetrics& printer, double lineStep, const generator::PuzzleWorkspace& workspace)
 {
     const int size = workspace.PuzzleSize;
@@ -65,15 +58,16 @@ void LayOutGrid(Page& page, const PageMetrics& printer, double lineStep, const g
 
 } // namespace
 
-// Halves are rounded to the even neighbour: std::nearbyint follows the rounding mode in force, which is that one
-// unless a program changes it, and nothing here does.
+// std::nearbyint rounds ties to even: that is the default rounding mode, and nothing here changes it.
 Page LayOutPage(const PageMetrics& printer, std::u16string_view title, std::span<const std::u16string> words,
                 const generator::PuzzleWorkspace& workspace)
 {
+    const PageFont titleFont{u"Times New Roman", 26, true, true};
+    const double titleLeft = printer.width / 2 - printer.textWidth(titleFont, title) / 2;
     const PageFont wordFont{u"Times New Roman", 11};
     const double lineStep = std::nearbyint(printer.size(wordFont) * 1.5 * TwipsPerPoint);
-    Page page{{}, {BoxMargin, BoxTop, printer.width - BoxMargin, BoxTop + BoxLines * lineStep + 0.3}};
-    LayOutTitle(page, printer, title);
+    Page page{{{titleFont, titleLeft, TitleTop, std::u16string(title)}},
+              {BoxMargin, BoxTop, printer.width - BoxMargin, BoxTop + BoxLines * lineStep + 0.3}};
     LayOutWords(page, printer, wordFont, lineStep, words);
     LayOutGrid(page, printer, lineStep, workspace);
     return page;
@@ -81,7 +75,7 @@ Page LayOutPage(const PageMetrics& printer, std::u16string_view title, std::span
 
 double ScaleForSheet(double width, double height)
 {
-    // The narrower of A4 and Letter, less what drivers round away, and the shorter of them.
+    // The width of A4 and the height of Letter, less what drivers round off.
     constexpr double MadeForWidth = 11880;
     constexpr double MadeForHeight = 15820;
     return std::min({1.0, width / MadeForWidth, height / MadeForHeight});

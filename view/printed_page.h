@@ -19,16 +19,16 @@ struct PageFont {
     bool operator==(const PageFont&) const = default;
 };
 
-/// What laying out a page asks of a printer.
+/// What the layout of a page needs to know about the printer.
 struct PageMetrics {
-    double width; ///< of the sheet, in twips; of a sheet that is scaled to, before scaling
-    /// The size in effect, in points, when `font` is asked for.
+    double width; ///< of the sheet in twips, divided by ScaleForSheet
+    /// Returns the size in points that the printer uses for `font`.
     std::function<double(const PageFont& font)> size;
-    /// The width of `text` in `font`, in twips.
+    /// Returns the width of `text` in `font`, in twips.
     std::function<double(const PageFont& font, std::u16string_view text)> textWidth;
 };
 
-/// A text of the page and where its top left corner is: twips from the sheet's, fractions allowed.
+/// A text and its top left corner, in twips (1/1440 inch) from the top left of the sheet; fractions allowed.
 struct PageText {
     PageFont font;
     double x;
@@ -36,7 +36,7 @@ struct PageText {
     std::u16string text;
 };
 
-/// The ruled box, in twips.
+/// The ruled box around the words, in twips.
 struct PageBox {
     double left, top, right, bottom;
 };
@@ -46,13 +46,13 @@ struct Page {
     PageBox box;
 };
 
-/// Lays out the one page of a puzzle: the title, the words in columns of ten inside a ruled box, the grid of
-/// `workspace`.
+/// Lays out a puzzle on one page: the title, the words in columns of ten inside a ruled box, and the grid.
+/// `workspace` must hold a finished puzzle.
 Page LayOutPage(const PageMetrics& printer, std::u16string_view title, std::span<const std::u16string> words,
                 const generator::PuzzleWorkspace& workspace);
 
-/// The scale at which a page goes onto a sheet of a size in twips: 1 on A4, Letter and everything larger, less on a
-/// smaller sheet, so that all of it is on paper.
+/// Returns the scale that makes a page fit a sheet of the given size in twips: 1 on A4, Letter and larger sheets,
+/// less than 1 on smaller ones.
 double ScaleForSheet(double width, double height);
 
 } // namespace view
