@@ -2,20 +2,15 @@
 
 #include <iostream>
 
-// Drives the program through a whole puzzle, off-screen, with an example's words, and leaves pictures of what
-// a person would have seen, and the printed page.
+// Takes the program through a whole puzzle with the words of an example, off-screen. Leaves pictures of both windows
+// and the printed page.
 
 namespace {
 
-bool Leave(const char* what, const QString& path, bool written)
+bool Report(const char* what, const QString& path, bool written)
 {
     std::cout << what << ": " << qPrintable(written ? path : "could not be written") << '\n';
     return written;
-}
-
-bool LeavePicture(const char* what, QWidget* window, const QString& path)
-{
-    return Leave(what, path, window != nullptr && window->grab().save(path));
 }
 
 } // namespace
@@ -30,18 +25,19 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     driving::Script person;
     const QDir folder(argv[2]);
+    const QString mainPicture = folder.absoluteFilePath("main-window.png");
+    const QString puzzlePicture = folder.absoluteFilePath("puzzle-window.png");
     const QString page = folder.absoluteFilePath("puzzle.pdf");
     QFile::remove(page);
 
     person.Start();
     person.Run(QString("file:%1 menu:fo").arg(argv[1]));
-    bool ok = LeavePicture("main window", person.Window.get(), folder.absoluteFilePath("main-window.png"));
+    bool ok = Report("main window", mainPicture, person.Window->grab().save(mainPicture));
     person.Step("create");
-    ok = LeavePicture("puzzle window", driving::ShownWindow("frmPuzzle"),
-                      folder.absoluteFilePath("puzzle-window.png")) &&
-         ok;
+    QWidget* puzzle = driving::ShownWindow("frmPuzzle");
+    ok &= Report("puzzle window", puzzlePicture, puzzle != nullptr && puzzle->grab().save(puzzlePicture));
     person.Folder = folder;
     person.Run("pdf:puzzle.pdf print back");
-    ok = Leave("printed page", page, QFile::exists(page)) && ok;
+    ok &= Report("printed page", page, QFile::exists(page));
     return ok && person.Window->isVisible() ? 0 : 1;
 }

@@ -11,17 +11,6 @@
 
 namespace driving {
 
-namespace {
-
-QString Describe(const QDialog& dialog)
-{
-    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
-        return box->windowTitle() + ": " + box->text();
-    return dialog.objectName();
-}
-
-} // namespace
-
 void PrepareApplication()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -54,19 +43,16 @@ void Answers::Look()
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || Answered.contains(dialog) || !dialog->isVisible())
         return;
-    if (!dialog->isActiveWindow()) {
-        dialog->activateWindow(); // until then it takes keys and texts otherwise than before a user
-        return;
-    }
+    if (!dialog->isActiveWindow())
+        return dialog->activateWindow(); // an inactive dialog handles keys and text differently
     Answered.removeAll(nullptr);
     Answered += dialog;
-    if (Expected.empty()) {
-        Seen += "unexpected " + Describe(*dialog);
-        dialog->reject();
-        return;
-    }
-    Seen += Describe(*dialog);
-    // Not from here: an answer may bring up a further box, for which this timer has to go on.
+    const auto* box = qobject_cast<const QMessageBox*>(dialog);
+    const QString name = box != nullptr ? box->windowTitle() + ": " + box->text() : dialog->objectName();
+    Seen += (Expected.empty() ? "unexpected " : "") + name;
+    if (Expected.empty())
+        return dialog->reject();
+    // Answer later: the answer may open another box, and this timer must keep running for it.
     QTimer::singleShot(0, dialog, [answer = std::move(Expected.front()), dialog] { answer(*dialog); });
     Expected.pop_front();
 }
@@ -85,9 +71,9 @@ Answers::Answer ChooseFile(const QString& path)
 {
     return [path](QDialog& dialog) {
         auto& box = Find<QLineEdit>(dialog, "fileNameEdit");
-        box.setFocus(); // without it the dialog keeps the file that it has selected
+        box.setFocus(); // otherwise the dialog keeps the selected file
         box.setText(path);
-        // The dialog takes a path as typed only from its box: its accept is that of the button.
+        // accept is protected; only this way does the dialog use the path in its box.
         QMetaObject::invokeMethod(&dialog, "accept");
         if (dialog.isVisible())
             dialog.reject();
@@ -102,10 +88,8 @@ Answers::Answer Dismiss()
 Answers::Answer PrintTo(const QString& path)
 {
     return [path](QDialog& dialog) {
-        if (qobject_cast<QFileDialog*>(&dialog) != nullptr) { // all that some desktops ask without a printer
-            ChooseFile(path)(dialog);
-            return;
-        }
+        if (qobject_cast<QFileDialog*>(&dialog) != nullptr) // what some desktops show when there is no printer
+            return ChooseFile(path)(dialog);
         Find<QLineEdit>(dialog, "filename").setText(path);
         for (QPushButton* button : dialog.findChildren<QPushButton*>())
             if (button->text().remove('&') == "Print")

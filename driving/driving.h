@@ -11,14 +11,13 @@
 #include <deque>
 #include <functional>
 
-/// Driving the program's real windows: finding controls by name and answering modal boxes and dialogs.
+/// Drives the program's real windows: finds controls by name and answers modal boxes and dialogs.
 namespace driving {
 
-/// Sets up a run that no desktop theme, settings file or native dialog can change.
+/// Makes the run independent of the settings file and of native dialogs. Call it before the application exists.
 void PrepareApplication();
 
-/// The descendant of `root` with this name; ends the program, naming those that there are, when there is
-/// none.
+/// Returns the descendant of `root` with this name. If there is none, lists the existing names and aborts.
 template <class T>
 T& Find(const QObject& root, const QString& name)
 {
@@ -31,14 +30,14 @@ T& Find(const QObject& root, const QString& name)
     qFatal("%s has no %s, but: %s", qPrintable(root.objectName()), qPrintable(name), qPrintable(names.join(' ')));
 }
 
-/// The window of this name that is shown, or null.
+/// Returns the visible window with this name, or null.
 QWidget* ShownWindow(const QString& name);
 
-/// The button that stands for a toolbar's action.
+/// Returns the button of the action `key` in a toolbar.
 QToolButton& ToolButton(const QWidget& window, const QString& toolbar, const QString& key);
 
-/// Answers modal boxes and dialogs as they appear, in the order in which the answers were given. One that
-/// nobody expected is closed and remembered, so that nothing waits for ever.
+/// Answers modal boxes and dialogs as they appear, in the order of the Expect calls. Closes and records an unexpected
+/// one, so that a run never hangs.
 class Answers : public QObject {
     Q_OBJECT
 
@@ -47,10 +46,10 @@ public:
 
     Answers();
     void Expect(Answer answer) { Expected.push_back(std::move(answer)); }
-    /// Everything that was shown since the last call: "title: text" of boxes, names of dialogs, "unexpected"
-    /// before those that nobody expected.
+    /// Returns what appeared since the last call: "title: text" for a box, the name of a dialog, with "unexpected "
+    /// in front if it was not expected.
     QStringList Shown() { return std::exchange(Seen, {}); }
-    /// Whether every expected dialog has come.
+    /// Whether every expected dialog has appeared.
     bool Done() const { return Expected.empty(); }
 
 private:
@@ -62,12 +61,13 @@ private:
     QStringList Seen;
 };
 
+/// Clicks a button of a message box; cancels any other dialog.
 Answers::Answer Press(QMessageBox::StandardButton button);
-/// Types a path into a file dialog and confirms it; cancels a dialog that does not take it.
+/// Types a path into a file dialog and confirms it; cancels the dialog if it does not accept the path.
 Answers::Answer ChooseFile(const QString& path);
-/// Escape.
+/// Presses Escape.
 Answers::Answer Dismiss();
-/// Prints to a PDF file with the print dialog; cancels a dialog that does not take the path.
+/// Prints to a PDF file through the print dialog; cancels the dialog if it does not accept the path.
 Answers::Answer PrintTo(const QString& path);
 
 } // namespace driving

@@ -4,19 +4,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include <map>
-
 namespace driving {
-
-namespace {
-
-void Paste(QLineEdit& box, const QString& text)
-{
-    QApplication::clipboard()->setText(text);
-    box.paste();
-}
-
-} // namespace
 
 void Script::Start(generator::RandomSource random)
 {
@@ -44,66 +32,70 @@ void Script::Run(const QString& steps)
 
 void Script::Step(const QString& step)
 {
+    const QString name = step.section(':', 0, 0);
     const QString about = step.section(':', 1).replace('_', ' ');
-    const auto key = [this](const char* box, Qt::Key pressed) { QTest::keyClick(&Control<QLineEdit>(box), pressed); };
-    const auto puzzle = [] {
-        QWidget* shown = ShownWindow("frmPuzzle");
-        if (shown == nullptr)
-            qFatal("no puzzle is shown");
-        return shown;
-    };
-    const auto puzzleTool = [&](const char* name) { ToolButton(*puzzle(), "PuzzleToolbar", name).click(); };
-    const std::map<QString, std::function<void()>> steps{
-        {"type", [&] { Type("txtNewWords", about); }},
-        {"enter", [&] { key("txtNewWords", Qt::Key_Return); }},
-        {"wipe", [&] { Control<QLineEdit>("txtNewWords").selectAll(), key("txtNewWords", Qt::Key_Delete); }},
-        {"home", [&] { key("txtNewWords", Qt::Key_Home); }},
-        {"del", [&] { key("txtNewWords", Qt::Key_Delete); }},
-        {"word", [&] { Type("txtNewWords", about), key("txtNewWords", Qt::Key_Return); }},
-        {"fill", [&] { Fill(about.toInt()); }},
-        {"title", [&] { Type("txtTitle", about); }},
-        {"titleenter", [&] { key("txtTitle", Qt::Key_Enter); }},
-        {"clicktitle", [&] { QTest::mouseClick(&Control<QLineEdit>("txtTitle"), Qt::LeftButton); }},
-        {"leave", [&] { Control<QLineEdit>("txtNewWords").setFocus(); }},
-        {"tabs", [&] { TabRound(); }},
-        {"key", [&] { QTest::keySequence(Activate(), QKeySequence(about)); }},
-        {"pick", [&] { Pick(about.toInt()); }},
-        {"double", [&] { Pick(about.toInt()), Pick(about.toInt(), true); }},
-        {"look",
-         [&] { Control<QWidget>("lstWordlist").setFocus(), QTest::keySequence(Activate(), QKeySequence(about)); }},
-        {"over", [&] { Enter(about, [](QLineEdit& box, const QString& text) { QTest::keyClicks(&box, text); }); }},
-        {"paste", [&] { Enter(about, [](QLineEdit& box, const QString& text) { Paste(box, text); }); }},
-        {"waiting", [&] { PressWithoutWaiting(about); }},
-        {"edit", [&] { Click("cmdEditWord"); }},
-        {"delete", [&] { Click("cmdDelete"); }},
-        {"create", [&] { Click("cmdCreatePuzzle"); }},
-        {"tool", [&] { ToolButton(*Window, "Toolbar1", about).click(); }},
-        {"menu", [&] { QTest::keyClick(OpenMenu(about.at(0).toLatin1()), about.at(1).toLatin1()); }},
-        {"print", [&] { puzzleTool("Print"); }},
-        {"back", [&] { puzzleTool("Back"); }},
-        {"closepuzzle", [&] { puzzle()->close(); }},
-        {"closetwice", [&, window = QPointer(ShownWindow("frmPuzzle"))] { window->close(), window->close(); }},
-        {"openmenu", [&] { OpenMenu(about.at(0).toLatin1()); }},
-        {"taskbar", [&] { Window->showMinimized(), Window->showNormal(); }},
-        {"closemain", [&] { Window->close(); }},
-        {"yes", [&] { Answering.Expect(Press(QMessageBox::Yes)); }},
-        {"no", [&] { Answering.Expect(Press(QMessageBox::No)); }},
-        {"cancel", [&] { Answering.Expect(Press(QMessageBox::Cancel)); }},
-        {"ok", [&] { Answering.Expect(Press(QMessageBox::Ok)); }},
-        {"end", [&] { Answering.Expect([](QDialog& /*dialog*/) { QApplication::closeAllWindows(); }); }},
-        {"escape", [&] { Answering.Expect(Dismiss()); }},
-        {"file", [&] { Answering.Expect(ChooseFile(Folder.absoluteFilePath(about))); }},
-        {"pdf", [&] { Answering.Expect(PrintTo(Folder.absoluteFilePath(about))); }},
-    };
-    const auto known = steps.find(step.section(':', 0, 0));
-    if (known == steps.end())
-        qFatal("there is no step %s", qPrintable(step));
-    known->second();
+    for (const Steps& steps : {ActionSteps(about), AnswerSteps(about)})
+        if (const auto known = steps.find(name); known != steps.end())
+            return known->second();
+    qFatal("there is no step %s", qPrintable(step));
 }
 
-void Script::Click(const char* button)
+Script::Steps Script::ActionSteps(const QString& about)
 {
-    QTest::mouseClick(&Control<QPushButton>(button), Qt::LeftButton);
+    const auto press = [this](const char* box, Qt::Key key) { QTest::keyClick(&Control<QLineEdit>(box), key); };
+    return {
+        {"type", [=, this] { Type("txtNewWords", about); }},
+        {"enter", [=] { press("txtNewWords", Qt::Key_Return); }},
+        {"wipe", [=, this] { Control<QLineEdit>("txtNewWords").selectAll(), press("txtNewWords", Qt::Key_Delete); }},
+        {"home", [=] { press("txtNewWords", Qt::Key_Home); }},
+        {"del", [=] { press("txtNewWords", Qt::Key_Delete); }},
+        {"word", [=, this] { Type("txtNewWords", about), press("txtNewWords", Qt::Key_Return); }},
+        {"fill", [=, this] { Fill(about.toInt()); }},
+        {"over", [=, this] { Enter(about, false); }},
+        {"paste", [=, this] { Enter(about, true); }},
+        {"waiting", [=, this] { PressWithoutWaiting(about); }},
+        {"title", [=, this] { Type("txtTitle", about); }},
+        {"titleenter", [=] { press("txtTitle", Qt::Key_Enter); }},
+        {"clicktitle", [=, this] { Click("txtTitle"); }},
+        {"pick", [=, this] { Pick(about.toInt()); }},
+        {"double", [=, this] { Pick(about.toInt(), true); }},
+        {"edit", [=, this] { Click("cmdEditWord"); }},
+        {"delete", [=, this] { Click("cmdDelete"); }},
+        {"leave", [=, this] { Control<QLineEdit>("txtNewWords").setFocus(); }},
+        {"tabs", [=, this] { TabRound(); }},
+        {"key", [=, this] { QTest::keySequence(Activate(), QKeySequence(about)); }},
+        {"look", [=, this] { Control<QWidget>("lstWordlist").setFocus(), Step("key:" + about); }},
+        {"create", [=, this] { Click("cmdCreatePuzzle"); }},
+        {"tool", [=, this] { ToolButton(*Window, "Toolbar1", about).click(); }},
+        {"openmenu", [=, this] { OpenMenu(about.at(0).toLatin1()); }},
+        {"menu", [=, this] { QTest::keyClick(OpenMenu(about.at(0).toLatin1()), about.at(1).toLatin1()); }},
+        {"print", [=] { ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", "Print").click(); }},
+        {"back", [=] { ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", "Back").click(); }},
+        {"closepuzzle", [=] { ShownWindow("frmPuzzle")->close(); }},
+        {"closetwice", [shown = ShownWindow("frmPuzzle")] { shown->close(), shown->close(); }},
+        {"closemain", [=, this] { Window->close(); }},
+        {"taskbar", [=, this] { Window->showMinimized(), Window->showNormal(); }},
+    };
+}
+
+Script::Steps Script::AnswerSteps(const QString& about)
+{
+    const auto answer = [this](const Answers::Answer& given) { Answering.Expect(given); };
+    return {
+        {"yes", [=] { answer(Press(QMessageBox::Yes)); }},
+        {"no", [=] { answer(Press(QMessageBox::No)); }},
+        {"cancel", [=] { answer(Press(QMessageBox::Cancel)); }},
+        {"ok", [=] { answer(Press(QMessageBox::Ok)); }},
+        {"end", [=] { answer([](QDialog& /*dialog*/) { QApplication::closeAllWindows(); }); }},
+        {"escape", [=] { answer(Dismiss()); }},
+        {"file", [=, this] { answer(ChooseFile(Folder.absoluteFilePath(about))); }},
+        {"pdf", [=, this] { answer(PrintTo(Folder.absoluteFilePath(about))); }},
+    };
+}
+
+void Script::Click(const char* control)
+{
+    QTest::mouseClick(&Control<QWidget>(control), Qt::LeftButton);
 }
 
 void Script::Type(const char* box, const QString& text)
@@ -120,33 +112,33 @@ void Script::Fill(int words)
         Step(QString("word:W%1%2").arg(QChar('a' + i % 26)).arg(QChar('a' + i / 26)));
 }
 
-void Script::Pick(int position, bool secondClick)
+void Script::Pick(int position, bool doubleClick)
 {
     auto& list = Control<QListWidget>("lstWordlist");
     const QPoint place = list.visualItemRect(list.item(position)).center();
-    if (secondClick)
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+    if (doubleClick)
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
-    else
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
 }
 
-/// BOX,START,LENGTH,TEXT: the text in the place of a selection.
-void Script::Enter(const QString& about, void (*enter)(QLineEdit& box, const QString& text))
+void Script::Enter(const QString& about, bool paste)
 {
     auto& box = Control<QLineEdit>(about.startsWith('t') ? "txtTitle" : "txtNewWords");
+    const QString text = about.section(',', 3);
     box.setFocus();
     box.end(false);
     box.setSelection(about.section(',', 1, 1).toInt(), about.section(',', 2, 2).toInt());
-    enter(box, about.section(',', 3));
+    if (!paste)
+        return QTest::keyClicks(&box, text);
+    QApplication::clipboard()->setText(text);
+    box.paste();
 }
 
-/// As when the program was busy: they are all there before the first is taken, and reach the window that had the
-/// focus then, also below a dialog.
+/// Queues all keys before the program handles the first one, as when it is busy. They reach the window that has the
+/// focus now, even below a dialog.
 void Script::PressWithoutWaiting(const QString& keys)
 {
-    auto& box = Control<QLineEdit>("txtNewWords");
-    box.setFocus();
-    box.end(false);
+    Type("txtNewWords", {});
     QWindow* window = Activate()->window()->windowHandle();
     int taken = 0;
     const QStringList waiting = keys.split(' ');
@@ -162,10 +154,10 @@ void Script::PressWithoutWaiting(const QString& keys)
         qFatal("keys were left over: %s", qPrintable(keys));
 }
 
-/// Past the end of the window and the title box.
+/// From the list past the end of the tab order to the word box.
 void Script::TabRound()
 {
-    Activate(); // only the active window tells its controls of the focus
+    Activate(); // an inactive window sends no focus events
     Control<QWidget>("lstWordlist").setFocus(Qt::TabFocusReason);
     while (Window->focusWidget() != &Control<QWidget>("txtNewWords"))
         QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);

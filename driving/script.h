@@ -6,35 +6,37 @@
 
 #include <QDir>
 
+#include <map>
 #include <memory>
 
 namespace driving {
 
-/// Works the program by scripts: what a person does, step by step, with the real controls, menus, boxes and
-/// dialogs of the windows. A step is a word, or a word, a colon and what it is about, "_" for a blank there:
+/// Operates the program from scripts: each step is something a person does with the real windows. A step is a name,
+/// or NAME:ARGUMENT, where "_" stands for a space:
 ///
-///     type:TEXT enter wipe home del           the word box
-///     word:TEXT fill:N                        type and enter; N words
-///     title:TEXT titleenter clicktitle        the title box
-///     leave tabs                              to the word box, tabs by the Tab key from the list
-///     key:KEYS                                wherever the focus is
-///     pick:N edit delete create               the list, from 0, and the buttons
-///     tool:KEY menu:AB                        the toolbar; the menus by their access keys
-///     print back closepuzzle closemain        the puzzle window, the close boxes
-///     taskbar                                 the main window minimised and brought back
-///     yes no cancel ok escape file:NAME pdf:NAME end
-///                                             answers, given before the step that brings up the question; "end" of
-///                                             the desktop's session
+///     type:TEXT enter wipe home del           word box
+///     word:TEXT fill:N                        type and enter a word; enter N words
+///     title:TEXT titleenter clicktitle        title box
+///     over:B,START,LENGTH,TEXT paste:...      replace a selection in box B: t for title, w for word
+///     waiting:KEY_KEY                         keys that queue up before the first is handled
+///     pick:N double:N look:KEY edit delete    list: click or double-click entry N, from 0; press a key
+///     leave tabs key:KEYS                     focus the word box; press Tab from the list; press keys
+///     create tool:KEY menu:AB openmenu:A      buttons, toolbar; menus by their access keys
+///     print back closepuzzle closetwice       puzzle window
+///     closemain taskbar                       close the main window; minimise and restore it
+///     yes no cancel ok escape end file:NAME pdf:NAME
+///                                             the answer to a later question; "end" ends the desktop session
 class Script {
 public:
     explicit Script(const QString& folder = QString()) : Folder(folder) {}
 
-    /// Opens a main window of its own, in the place of the last.
+    /// Opens a new main window and deletes the previous one.
     void Start(generator::RandomSource random = generator::RandomSource());
-    /// Makes the window that is shown the active one, as a desktop does when a box has closed; what has the focus.
+    /// Activates the visible window, as a desktop does when a box closes. Returns the widget with the focus.
     QWidget* Activate();
+    /// Runs one step; aborts when there is no such step.
     void Step(const QString& step);
-    /// Steps with blanks between them.
+    /// Runs steps separated by spaces.
     void Run(const QString& steps);
 
     template <class T>
@@ -43,21 +45,25 @@ public:
         return Find<T>(*Window, name);
     }
 
-    QDir Folder; ///< of the files that the steps name
+    QDir Folder; ///< holds the files that the steps name
     std::unique_ptr<frmMain> Window;
     Answers Answering;
 
 private:
-    DialogKeeper Dialogs;
+    using Steps = std::map<QString, std::function<void()>>;
 
-    void Click(const char* button);
+    Steps ActionSteps(const QString& about);
+    Steps AnswerSteps(const QString& about);
+    void Click(const char* control);
     void Type(const char* box, const QString& text);
     void Fill(int words);
-    void Pick(int position, bool secondClick = false);
-    void Enter(const QString& about, void (*enter)(QLineEdit& box, const QString& text));
+    void Pick(int position, bool doubleClick = false);
+    void Enter(const QString& about, bool paste);
     void PressWithoutWaiting(const QString& keys);
     void TabRound();
     QWidget* OpenMenu(char key);
+
+    DialogKeeper Dialogs;
 };
 
 } // namespace driving
