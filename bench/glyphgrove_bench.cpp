@@ -1,30 +1,22 @@
 #include "app/desktop/page_printer.h"
 #include "driving/script.h"
+#include "tests/support/puzzles.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QTemporaryDir>
 
-// How long a puzzle takes to make, to show and to print. The absolute times are this machine's; what to
-// compare are the ratios within one run.
+// Measures how long it takes to make, show and print a puzzle. Compare ratios within one run: absolute times depend
+// on the machine.
 
 namespace {
-
-std::vector<std::u16string> RandomWords(generator::RandomSource& random, std::int64_t count, std::int64_t length)
-{
-    std::vector<std::u16string> words(static_cast<std::size_t>(count));
-    for (auto& word : words)
-        for (std::int64_t i = 0; i < length; ++i)
-            word += static_cast<char16_t>('A' + random.DrawBelow(26));
-    return words;
-}
 
 void MakePuzzle(benchmark::State& state)
 {
     generator::PuzzleWorkspace workspace;
     for (auto _ : state) {
         state.PauseTiming();
-        const auto words = RandomWords(workspace.Random, state.range(0), state.range(1));
+        const auto words = RandomWords(workspace.Random, int(state.range(0)), int(state.range(1)));
         workspace.Reset();
         state.ResumeTiming();
         workspace.LoadWordsArray(words);
@@ -33,15 +25,15 @@ void MakePuzzle(benchmark::State& state)
 }
 BENCHMARK(MakePuzzle)->Args({10, 5})->Args({40, 7})->Args({40, 12})->Args({40, 20})->Unit(benchmark::kMicrosecond);
 
-/// From the click on Create Puzzle to the painted puzzle window.
+/// From the click on Create Puzzle until the puzzle window is painted.
 void ShowPuzzle(benchmark::State& state)
 {
     driving::Script person;
     person.Start();
     generator::RandomSource random;
-    for (const auto& word : RandomWords(random, state.range(0), state.range(1)))
+    for (const auto& word : RandomWords(random, int(state.range(0)), int(state.range(1))))
         person.Step("word:" + QString::fromStdU16String(word));
-    person.Run("no menu:fq"); // nothing is left to ask about
+    person.Run("no menu:fq"); // so that Create Puzzle asks nothing
     person.Window->show();
     auto& create = person.Control<QPushButton>("cmdCreatePuzzle");
     for (auto _ : state) {
@@ -57,7 +49,7 @@ void ShowPuzzle(benchmark::State& state)
 }
 BENCHMARK(ShowPuzzle)->Args({40, 7})->Args({40, 12})->Unit(benchmark::kMillisecond);
 
-/// From the accepted print dialog to the finished PDF: a grid of 30 x 30 with 40 words.
+/// From the accepted print dialog to the finished PDF, for a 30 x 30 grid with 40 words.
 void PrintPuzzle(benchmark::State& state)
 {
     const QTemporaryDir folder;
