@@ -40,7 +40,9 @@ private slots:
     /// What boxes offer, the usual answer last; the names with which dialogs open, and what one can choose there.
     void AsksForWhatItNeeds()
     {
-        const auto keys = [](auto value) { return QMetaEnum::fromType<decltype(value)>().valueToKeys(static_cast<int>(value)); };
+        const auto keys = [](auto value) {
+            return QMetaEnum::fromType<decltype(value)>().valueToKeys(static_cast<int>(value));
+        };
         QStringList asked;
         const auto note = [&](QDialog& dialog) {
             if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
