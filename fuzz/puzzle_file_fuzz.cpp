@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-/// Any bytes can be opened, and what was read can be written and read again to the same.
+/// The program can open any bytes, and a file that it saves reads back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const auto file = document::ReadPuzzle(std::string(data, data + size));

@@ -58,7 +58,7 @@ private slots:
         QCOMPARE(Folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
     }
 
-#ifdef Q_OS_UNIX // elsewhere the toolkit tells neither permissions nor links from what it makes of them
+#ifdef Q_OS_UNIX // on Windows, Qt does not report the real permissions and links
     void KeepsPermissions()
     {
         QFile::setPermissions(File, QFile::ReadOwner | QFile::WriteOwner);
@@ -81,7 +81,7 @@ private slots:
             QVERIFY(QFileInfo(Folder.filePath(link)).isSymLink());
     }
 
-    /// A disk without room for the new contents, in a folder that takes new files and in one that does not.
+    /// The disk has no space for the new contents. The user may write to the folder in the first case only.
     void LeavesTheEarlierFileWhereThereIsNoRoom()
     {
         for (const mode_t folder : {0777U, 0555U}) {
@@ -102,7 +102,7 @@ private slots:
     void KeepsToWhatMayBeWritten()
     {
         Protect(0555, 0666);
-        QVERIFY(SaveAsUser(File, "newer") && SaveAsUser(File, "new")); // in place, and no rest of the longer one
+        QVERIFY(SaveAsUser(File, "newer") && SaveAsUser(File, "new")); // writes in place, and cuts the file
         QVERIFY(!SaveAsUser(Folder.filePath("new.pux"), "new"));
         QCOMPARE(Contents(File), "new");
         Protect(0777, 0444);
@@ -116,7 +116,7 @@ private:
         QVERIFY(chmod(qPrintable(Folder.path()), folder) == 0 && chmod(qPrintable(File), file) == 0);
     }
 
-    /// Saves as a user to whom permissions apply, also where root runs the test.
+    /// Saves as an ordinary user, even if root runs the test: root ignores permissions.
     static bool SaveAsUser(const QString& path, const std::string& bytes)
     {
         constexpr uid_t Nobody = 65534;

@@ -1,7 +1,7 @@
 #include "tests/support/model.h"
 
-/// A user who does anything at any time: after every step the window shows what its model does, and the same
-/// boxes came. GLYPHGROVE_ACTIONS and GLYPHGROVE_SEED set the walk's length and course.
+/// Takes random steps. After each, the window must show the state and the boxes of its model. GLYPHGROVE_ACTIONS sets
+/// the number of steps and GLYPHGROVE_SEED their course.
 class RandomWalkTest : public WindowScript {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private slots:
                 continue;
             ++i;
             done = done.mid(done.size() - 11) << (model->Answers + QStringList(step)).join(' ');
-            Activate(); // as a desktop does when a box has closed
+            Activate(); // as a desktop does after a box closes
             for (const QString& answer : std::exchange(model->Answers, {}))
                 Step(answer);
             Step(step);

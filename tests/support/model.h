@@ -4,11 +4,11 @@
 
 #include <QRandomGenerator>
 
-/// The program as its rules have it, without a window. It answers the boxes that it brings up by chance and
-/// notes box and answer for the real window to be given the same.
+/// The rules of the program, without a window. It answers its boxes at random and records boxes and answers, so that
+/// the test can give the same answers to the real window.
 struct Model : Seen {
     QRandomGenerator& Chance;
-    QMap<QString, QString>& Disk; ///< files as Seen has them
+    QMap<QString, QString>& Disk; ///< in the form of Seen::Files
     QStringList Boxes, Answers;
     QString DocFileName, SelectedWord;
     int EditIndex = -1;
@@ -27,16 +27,10 @@ struct Model : Seen {
     }
     void LeaveTitle()
     {
-        if (!std::exchange(InTitle, false) || !Title.isEmpty())
-            return;
-        Title = "New Puzzle";
-        TitleSet = false;
+        if (std::exchange(InTitle, false) && Title.isEmpty())
+            Title = "New Puzzle", TitleSet = false;
     }
-    void ClearTextbox()
-    {
-        Word.clear();
-        LeaveTitle();
-    }
+    void ClearTextbox() { Word.clear(), LeaveTitle(); }
     void ShowChange()
     {
         ClearTextbox();
@@ -78,8 +72,7 @@ struct Model : Seen {
     }
     void Pick(int position)
     {
-        Selected = LookedAt = position;
-        SelectedWord = Words[position];
+        SelectedWord = Words[Selected = LookedAt = position];
         EditButtons = true;
         ClearTextbox();
     }
@@ -119,13 +112,6 @@ struct Model : Seen {
         Save = SaveAs = false;
         Saved = true;
     }
-    void New()
-    {
-        if (CheckForSave())
-            return;
-        Reset();
-        DocFileName.clear();
-    }
     void Open()
     {
         const QString path = CheckForSave() ? "escape" : Ask("file", Disk.keys() + QStringList{"gone.pux", "escape"});
@@ -164,35 +150,24 @@ struct Model : Seen {
     }
     bool FitForPuzzle() const
     {
-        return Words.size() <= 40 &&
-               std::ranges::all_of(Words, [](const QString& word) { return word.size() <= 20; });
+        return Words.size() <= 40 && std::ranges::all_of(Words, [](const QString& w) { return w.size() <= 20; });
     }
     void CreatePuzzle()
     {
         LeaveTitle();
         CheckForSave();
-        if (FitForPuzzle())
-            Shown = "frmPuzzle";
-        else
+        if (!FitForPuzzle())
             Ask("obstacle", {"ok", "escape"});
+        Shown = FitForPuzzle() ? "frmPuzzle" : Shown;
     }
     void ToolbarSave()
     {
-        if (Save)
-            Write(DocFileName);
-        else if (SaveAs)
-            RunSaveAs();
-        else
+        if (!SaveAs)
             Ask("nothing to save", {"ok", "escape"});
+        else
+            Save ? Write(DocFileName) : RunSaveAs();
     }
-    void Type(const QString& text)
-    {
-        LeaveTitle();
-        for (const QChar c : text)
-            if (Word.size() < 20 && (c == ' ' ? !Word.isEmpty() : c.isLetter()))
-                Word += c;
-    }
-    /// Types over a selection, key by key: BOX,START,LENGTH,TEXT.
+    /// Types a text over a selection: BOX,START,LENGTH,TEXT.
     void TypeOver(const QString& about)
     {
         const bool title = about.startsWith('t');
@@ -204,19 +179,17 @@ struct Model : Seen {
         qsizetype selected = std::min<qsizetype>(about.section(',', 2, 2).toInt(), box.size() - at);
         for (QChar c : about.section(',', 3)) {
             c = c == '\n' ? ' ' : c;
-            const bool taken = title ? true : c == ' ' ? !box.isEmpty() : c.isLetter();
-            if (!taken || box.size() - selected >= (title ? 30 : 20))
-                continue;
-            box.replace(at++, std::exchange(selected, 0), c);
+            const bool taken = title || (c == ' ' ? !box.isEmpty() : c.isLetter());
+            if (taken && box.size() - selected < (title ? 30 : 20))
+                box.replace(at++, std::exchange(selected, 0), c);
         }
     }
     void FocusList()
     {
         LeaveTitle();
-        if (LookedAt < 0 && !Words.isEmpty())
-            LookedAt = 0;
+        LookedAt = LookedAt < 0 && !Words.isEmpty() ? 0 : LookedAt;
     }
-    /// Keys in the list: they move the entry that is looked at, and choose it unless Ctrl is held.
+    /// A key in the list moves the current entry, and chooses it if Ctrl is up.
     void PressInList(const QString& key)
     {
         FocusList();
@@ -235,66 +208,61 @@ struct Model : Seen {
         if (LookedAt >= 0 && (bare == "Space" || !key.startsWith("Ctrl")))
             Pick(LookedAt);
     }
-    /// Keys that are all there before the first is taken: those after one that brings up a dialog are lost.
+    /// The keys come while the program is busy. It drops those after a key that opens a dialog.
     void PressWaiting(const QStringList& keys)
     {
-        static const QMap<QString, QString> commands{
-            {"Ctrl+N", "tool:New"}, {"Ctrl+S", "tool:Save"}, {"Ctrl+O", "tool:Open"},    {"F1", "menu:ha"},
-            {"Return", "enter"},    {"Ctrl+Q", "closemain"}, {"Ctrl+Shift+S", "menu:fe"}};
         for (const QString& key : keys)
             if (Boxes.isEmpty() && Shown == "frmMain")
-                Do(commands.value(key, "type:" + key));
+                Do(SameAs.contains(key) ? key : "type:" + key);
     }
-    void Close() { Shown = CheckForSave() ? Shown : ""; }
     void ClickTitle()
     {
-        InTitle = true;
-        if (Title == "New Puzzle" || !TitleSet) {
+        if (Title == "New Puzzle" || !TitleSet)
             Title.clear();
-            TitleSet = true;
-        }
+        InTitle = TitleSet = true;
         Saved = false;
     }
 
-    /// Does what the step of a script says; false where the window would not let the user.
-    bool Do(const QString& step)
+    inline static const QMap<QString, QString> SameAs{
+        {"titleenter", "enter"}, {"Return", "enter"},     {"closepuzzle", "back"}, {"paste", "over"},
+        {"double", "pick"},      {"F1", "menu:ha"},       {"Ctrl+S", "tool:Save"}, {"Ctrl+Shift+S", "menu:fe"},
+        {"Ctrl+N", "tool:New"},  {"menu:fn", "tool:New"}, {"Ctrl+O", "tool:Open"}, {"menu:fo", "tool:Open"},
+        {"Ctrl+Q", "closemain"}, {"menu:fq", "closemain"}};
+
+    /// Does a step of a script. False if the user cannot do it now.
+    bool Do(const QString& given)
     {
-        const bool back = step == "back" || step == "closepuzzle";
-        if (back != (Shown == "frmPuzzle"))
+        const QString step = SameAs.value(given, given);
+        if ((step == "back") != (Shown == "frmPuzzle"))
             return false;
+        const QString verb = step.section(':', 0, 0);
         const QString about = step.section(':', 1).replace('_', ' ');
         const std::map<QString, std::pair<bool, std::function<void()>>> actions{
-            {"type", {true, [&] { Type(about); }}},
+            {"type", {true, [&] { TypeOver("w,99,0," + about); }}},
             {"enter", {true, [&] { Enter(); }}},
-            {"titleenter", {true, [&] { Enter(); }}},
             {"wipe", {!InTitle, [&] { Word.clear(); }}},
             {"over", {true, [&] { TypeOver(about); }}},
-            {"paste", {true, [&] { TypeOver(about); }}},
             {"look", {true, [&] { PressInList(about); }}},
             {"waiting", {!InTitle, [&] { LeaveTitle(), PressWaiting(about.split(' ')); }}},
-            {"double", {about.toInt() < std::min<qsizetype>(Words.size(), 20), [&] { Pick(about.toInt()); }}},
             {"clicktitle", {true, [&] { ClickTitle(); }}},
             {"leave", {true, [&] { LeaveTitle(); }}},
             {"tabs", {true, [&] { FocusList(), InTitle = true, LeaveTitle(); }}},
-            {"pick", {about.toInt() < std::min<qsizetype>(Words.size(), 20), [&] { Pick(about.toInt()); }}},
+            {"pick", {about.toInt() < Words.size(), [&] { Pick(about.toInt()); }}},
             {"edit", {EditButtons, [&] { EditWord(); }}},
             {"delete", {EditButtons, [&] { LeaveTitle(), Delete(false); }}},
             {"tool:Delete", {true, [&] { Delete(true); }}},
-            {"tool:New", {true, [&] { New(); }}},
-            {"menu:fn", {true, [&] { New(); }}},
+            {"tool:New", {true, [&] { CheckForSave() ? void() : (Reset(), DocFileName.clear()); }}},
             {"tool:Open", {true, [&] { Open(); }}},
-            {"menu:fo", {true, [&] { Open(); }}},
             {"tool:Save", {true, [&] { ToolbarSave(); }}},
             {"menu:fv", {Save, [&] { Write(DocFileName); }}},
             {"menu:fe", {SaveAs, [&] { RunSaveAs(); }}},
-            {"menu:fq", {true, [&] { Close(); }}},
-            {"closemain", {true, [&] { Close(); }}},
+            {"closemain", {true, [&] { Shown = CheckForSave() ? Shown : ""; }}},
             {"menu:ha", {true, [&] { Ask("frmAbout", {"escape"}), Word.clear(); }}},
             {"create", {Create, [&] { CreatePuzzle(); }}},
             {"back", {true, [&] { Shown = "frmMain", Word.clear(); }}},
         };
-        const auto exact = actions.find(back ? "back" : step);
-        const auto& [possible, act] = exact != actions.end() ? exact->second : actions.at(step.section(':', 0, 0));
+        const auto exact = actions.find(step);
+        const auto& [possible, act] = exact != actions.end() ? exact->second : actions.at(SameAs.value(verb, verb));
         if (possible)
             act();
         Count = QString::number(Words.size()) + (Words.size() >= 40 ? "!" : "");

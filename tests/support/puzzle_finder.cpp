@@ -8,12 +8,7 @@ namespace {
 
 using Cells = std::bitset<900>;
 
-bool Within(int position, int size)
-{
-    return position >= 0 && position < size;
-}
-
-/// Every set of cells on which the word can be read.
+/// All places where the word can be read, as sets of cells.
 std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::string& word)
 {
     std::string letters;
@@ -22,6 +17,7 @@ std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::stri
             letters += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     const int size = static_cast<int>(rows.size());
     const int length = static_cast<int>(word.size());
+    const auto within = [size](int position) { return position >= 0 && position < size; };
     std::vector<Cells> found;
     for (int start = 0; start < size * size; ++start)
         for (int way = 0; way < 9; ++way) {
@@ -29,25 +25,24 @@ std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::stri
             const int right = way % 3 - 1;
             const int r = start / size;
             const int c = start % size;
-            if (way == 4 || !Within(r + down * length, size) || !Within(c + right * length, size))
+            if (way == 4 || !within(r + down * length) || !within(c + right * length))
                 continue;
             Cells cells;
-            std::size_t i = 0;
-            for (; i < letters.size(); ++i) {
-                const auto row = static_cast<std::size_t>(r + down * static_cast<int>(i));
-                const auto column = static_cast<std::size_t>(c + right * static_cast<int>(i));
-                if (rows[row][column] != letters[i])
-                    break;
+            bool reads = true;
+            for (int i = 0; reads && i < static_cast<int>(letters.size()); ++i) {
+                const auto row = static_cast<std::size_t>(r + down * i);
+                const auto column = static_cast<std::size_t>(c + right * i);
+                reads = rows[row][column] == letters[static_cast<std::size_t>(i)];
                 cells.set(row * rows.size() + column);
             }
-            if (i == letters.size() && std::ranges::find(found, cells) == found.end())
+            if (reads && std::ranges::find(found, cells) == found.end())
                 found.push_back(cells);
         }
     return found;
 }
 
-/// Chooses a place for each word so that no two share more than one cell: always the word with the fewest
-/// places left first, taking from the others what its place rules out. `budget` bounds the search.
+/// Whether each word can have a place so that no two words share more than one cell. Starts with the word that has
+/// the fewest places left. `budget` limits the search.
 bool Choose(std::vector<std::vector<Cells>> places, int& budget)
 {
     if (places.empty())

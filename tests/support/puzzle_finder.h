@@ -3,14 +3,12 @@
 #include <string>
 #include <vector>
 
-/// A finished puzzle as a solver holds it: the rows of the grid and the words beside it. It knows nothing of
-/// how puzzles are made.
+/// A finished puzzle as a solver sees it.
 struct SolvedPuzzle {
     std::vector<std::string> rows;
-    std::vector<std::string> words; ///< as listed, in any letter case, blanks included
+    std::vector<std::string> words; ///< in any letter case, with blanks
 };
 
-/// Looks for every word in the grid and says what is wrong, or "" when the puzzle keeps all of its promises:
-/// a square of capitals; each word, without its blanks, in a straight line that still has a cell of the grid
-/// after its whole length; and places for all words at once of which no two share more than one cell.
+/// What is wrong with the puzzle, or "". The grid must be a square of capitals. Each word, without its blanks, must
+/// be in a straight line with one more cell after its full length. No two words may share more than one cell.
 std::string FaultOf(const SolvedPuzzle& puzzle);

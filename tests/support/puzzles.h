@@ -9,7 +9,7 @@
 
 using Words = std::vector<std::u16string>;
 
-/// A random source whose clock stands still: the same puzzle on every platform.
+/// A random source with a stopped clock. It gives the same puzzle on every platform.
 inline generator::RandomSource FixedRandom(std::uint64_t reading)
 {
     return generator::RandomSource([reading] { return reading; });
@@ -44,13 +44,13 @@ inline Words RandomWords(generator::RandomSource& random, int count, int length,
     return words;
 }
 
-/// A list within the limits in one of the shapes that have their own difficulties: any lengths, blanks inside and at
-/// the end, equal words, one repeated letter, palindromes, few letters, entries of blanks alone, nothing at all.
+/// A list of one of the difficult kinds: any lengths, blanks inside and at the end, equal words, one repeated letter,
+/// palindromes, few letters, entries with blanks only, empty.
 inline Words AnyList(generator::RandomSource& random)
 {
     const int shape = random.DrawBelow(8);
     const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
-    const int most = shape == 3 ? 10 : 40; // of one letter alone, more than that is a puzzle to the finder too
+    const int most = shape == 3 ? 10 : 40; // the finder cannot solve more words of one letter
     Words words;
     for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(most); count > 0; --count)
         words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());

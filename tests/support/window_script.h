@@ -11,7 +11,7 @@
 
 using namespace driving;
 
-/// A text of tests/data.
+/// The contents of a file in tests/data.
 inline QString Data(const QString& name)
 {
     QFile file(QFINDTESTDATA("../data/" + name));
@@ -27,16 +27,15 @@ struct Seen {
     int Selected = -1, LookedAt = -1;
     QString Word = {};
     bool Save = false, SaveAs = false, Create = false, EditButtons = false, EditMode = false;
-    QString Count = "0";               ///< "!" after it where it is red
-    QMap<QString, QString> Files = {}; ///< those that scripts write to, a "/" for a line's end, without quotes
-    QString Shown = "frmMain";         ///< the windows
+    QString Count = "0";               ///< with "!" when it is red
+    QMap<QString, QString> Files = {}; ///< the files that scripts write, with "/" for line ends and no quotes
+    QString Shown = "frmMain";         ///< the visible windows
 
     bool operator==(const Seen& other) const = default;
 
-    /// In a line: caption, big title, words, then S, A, C, E and M for what is available: Save, Save As, Create
-    /// Puzzle, the edit buttons, edit mode; the count, "@" and the position of the selected entry, "?" and that of
-    /// the one looked at; the text of the word box, the files, the windows where they are not the main one. For more
-    /// than five words it gives their number.
+    /// One line: caption, big title, words (their number if more than five); S, A, C, E and M if Save, Save As,
+    /// Create Puzzle, the edit buttons and edit mode are on; the count, "@" with the selected and "?" with the
+    /// current entry; the text of the word box, the files, and the windows if not just the main one.
     QString Line() const
     {
         QStringList line{Caption, Title, Words.size() <= 5 ? Words.join(',') : QString("%1 words").arg(Words.size())};
@@ -54,20 +53,19 @@ struct Seen {
     }
 };
 
-/// The base of the window tests: a fresh window and a folder of files for each.
+/// The base of the window tests. Each test gets a new window and a folder of files.
 class WindowScript : public QObject, protected Script {
     Q_OBJECT
 
 protected:
-    /// The files that are there, as Seen has them.
+    /// The files in the folder, in the form that Seen uses.
     QMap<QString, QString> Files(const QString& names) const
     {
         QMap<QString, QString> files;
         for (const QString& name : Folder.entryList({names})) {
             QFile file(Folder.filePath(name));
-            files[name] = !file.open(QIODevice::ReadOnly) ? "unreadable"
-                          : file.size() > 1000            ? "long"
-                                                          : QString(file.readAll()).remove('"').replace("\r\n", "/");
+            const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable";
+            files[name] = bytes.size() > 1000 ? "long" : QString(bytes).remove('"').replace("\r\n", "/");
         }
         return files;
     }
@@ -90,12 +88,11 @@ protected:
         seen.Count = count.text() + (count.palette().color(QPalette::WindowText) == Qt::red ? "!" : "");
         seen.Files = Files("new*");
         seen.Shown = Window->isVisible() ? "frmMain" : "";
-        if (const QWidget* puzzle = ShownWindow("frmPuzzle"))
-            seen.Shown += puzzle->objectName();
+        seen.Shown += ShownWindow("frmPuzzle") != nullptr ? "frmPuzzle" : "";
         return seen;
     }
 
-    /// The boxes and dialogs that came since the last call, by short names; a text that differs stays as it is.
+    /// The boxes and dialogs since the last call, by short names. A box with another text keeps its text.
     QString Boxes()
     {
         static const QList<std::pair<QString, QString>> names{
@@ -127,10 +124,10 @@ private slots:
     void initTestCase()
     {
         PrepareApplication();
-        QApplication::setStyle("Fusion"); // the same places on every desktop, and fonts of the same measures
+        QApplication::setStyle("Fusion"); // the same layout on every desktop
         QFont::insertSubstitution("Times New Roman", "Liberation Serif");
         QFont::insertSubstitution("Courier New", "Liberation Mono");
-        QApplication::setQuitOnLastWindowClosed(false); // the next window follows
+        QApplication::setQuitOnLastWindowClosed(false); // another window follows
     }
 
     void init()
@@ -138,15 +135,12 @@ private slots:
         Disk = std::make_unique<QTemporaryDir>();
         Folder = QDir(Disk->path());
         const QString many = QString("/WORD").repeated(40);
-        for (const auto& [name, records] : std::initializer_list<std::pair<const char*, QString>>{
-                 {"good.pux", "2.2/Pets/DOG/CAT"},
-                 {"older.pux", "Glyphgrove2.1/Old/DOG"},
-                 {"bad.pux", "Glyph/Pets/DOG"},
-                 {"long.pux", "2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERSX"},
-                 {"full.pux", "2.2/F" + many},
-                 {"many.pux", "2.2/M/DOG" + many}}) {
-            QFile file(Folder.filePath(name));
-            const QString bytes = '"' + QString(records).replace("/", "\"\r\n\"") + "\"\r\n";
+        for (const QString& text :
+             {QString("good/2.2/Pets/DOG/CAT"), QString("older/Glyphgrove2.1/Old/DOG"), QString("bad/Glyph/Pets/DOG"),
+              "full/2.2/F" + many, "many/2.2/M/DOG" + many,
+              QString("long/2.2/A title of over thirty characters/AWORDOFOVERTWENTYLETTERSX")}) {
+            QFile file(Folder.filePath(text.section('/', 0, 0) + ".pux"));
+            const QString bytes = '"' + text.section('/', 1).replace("/", "\"\r\n\"") + "\"\r\n";
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes.toLatin1()) > 0);
         }
         QApplication::setFont(QFont("Liberation Sans", 9));
