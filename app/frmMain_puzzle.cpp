@@ -42,9 +42,9 @@ void frmMain::FillPuzzleWindow()
 /// The puzzle window has closed. Hiding this window had moved the focus on, so it goes back to where it was.
 void frmMain::ComeBack()
 {
-    show();
     if (FocusBeforePuzzle != nullptr)
-        FocusBeforePuzzle->setFocus();
+        FocusBeforePuzzle->setFocus(); // before the window shows, or the focus would pass over another control
+    show();
     if (QApplication::activeModalWidget() == nullptr)
         Puzzle.release()
             ->deleteLater(); // it must outlive a dialog above it, which the session's end may have left open

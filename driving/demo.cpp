@@ -32,6 +32,7 @@ int main(int argc, char* argv[])
 
     person.Start();
     person.Run(QString("file:%1 menu:fo").arg(argv[1]));
+    QCoreApplication::processEvents(); // layouts that wait
     bool ok = Report("main window", mainPicture, person.Window->grab().save(mainPicture));
     person.Step("create");
     QWidget* puzzle = driving::ShownWindow("frmPuzzle");

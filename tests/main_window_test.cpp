@@ -46,6 +46,7 @@ private slots:
                 asked += keys(box->standardButtons()) + ' ' + box->defaultButton()->text().remove('&');
             else if (const auto* files = qobject_cast<const QFileDialog*>(&dialog))
                 asked += files->windowTitle() + ' ' + files->nameFilters().join('|') + ' ' +
+                         (files->testOption(QFileDialog::HideNameFilterDetails) ? "" : "shown ") +
                          (files->directory() == Folder ? "beside it: " : "") +
                          Find<QLineEdit>(dialog, "fileNameEdit").text();
             else if (const auto* print = qobject_cast<const QPrintDialog*>(&dialog))

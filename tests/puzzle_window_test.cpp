@@ -133,8 +133,8 @@ private slots:
     /// The main window scrolls on a screen of 600 by 400, and the puzzle window opens on the same screen.
     void StaysOnItsScreen()
     {
-        QScreen* small = QGuiApplication::screens().first();
-        QCOMPARE(small->name(), "small");
+        QList<QScreen*> screens = QGuiApplication::screens();
+        QScreen* small = *std::ranges::find_if(screens, [](auto* screen) { return screen->name() == "small"; });
         const QSize whole = Window->size();
         Window->move(small->geometry().topLeft() + QPoint(10, 10));
         QTRY_VERIFY(Window->width() <= 600 && Window->height() <= 400);
@@ -150,7 +150,9 @@ private slots:
     {
         QApplication::setFont(QFont("Liberation Sans", 14));
         Start();
-        QCOMPARE(Control<QWidget>("cmdEnter").height(), qRound(26 * Control<QWidget>("client").height() / 428.0));
+        const double scale = Control<QWidget>("client").height() / 428.0;
+        QVERIFY(scale > 1.4 && scale < 1.6);
+        QCOMPARE(Control<QWidget>("cmdEnter").height(), qRound(26 * scale));
         for (const QAbstractButton* button : Window->findChildren<QAbstractButton*>())
             QVERIFY(button->sizeHint().width() <= button->width());
     }
