@@ -47,7 +47,8 @@ frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*th
     BuildWordList();
     BuildMakerLink();
     FixClient(looks::SizeInPixels(*this, ClientWidth, ClientHeight, Scale));
-    Form_Load();
+    setWindowTitle(program::Name + " - " + program::NewPuzzle);
+    txtNewWords->setFocus();
 }
 
 frmMain::~frmMain()
@@ -197,14 +198,6 @@ QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (
     return button;
 }
 
-void frmMain::Form_Load()
-{
-    Saved = true;
-    TitleSet = false;
-    setWindowTitle(program::Name + " - " + program::NewPuzzle);
-    txtNewWords->setFocus();
-}
-
 /// Becoming active: when the window is first shown, when the About box closes, when the window comes back after the
 /// puzzle window.
 void frmMain::Form_Activate()
@@ -236,20 +229,16 @@ void frmMain::Toolbar1_ButtonClick(int index)
 {
     switch (index) {
     case 1:
-        mnuNewPuzzle_Click();
-        break;
+        return mnuNewPuzzle_Click();
     case 2:
-        mnuOpen_Click();
-        break;
+        return mnuOpen_Click();
     case 3:
-        ToolbarSave();
-        break;
+        return ToolbarSave();
     case 4:
         DeleteSelectedWord();
-        break;
+        return;
     default:
-        message_boxes::Tell(this, tr("Button not in use yet"));
-        break;
+        ShowMessage(this, tr("Button not in use yet"));
     }
 }
 

@@ -47,7 +47,6 @@ private:
     QLabel* NewLabel(const QString& text, QWidget* buddy = nullptr);
     QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)(), int x, int y,
                            int width, int height);
-    void Form_Load();
     void Form_Activate();
     void Toolbar1_ButtonClick(int index);
     void mnuAbout_Click();

@@ -12,8 +12,8 @@ bool frmMain::CheckForSave()
 {
     if (Saved)
         return false;
-    switch (message_boxes::AskToSave(this, tr("Do you want to save the changes you made to your Glyphgrove?"),
-                                     tr("Important"))) {
+    switch (ShowMessage(this, tr("Do you want to save the changes you made to your Glyphgrove?"), tr("Important"),
+                        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
     case QMessageBox::Yes:
         if (mnuSave->isEnabled())
             mnuSave_Click();
@@ -57,8 +57,7 @@ void frmMain::mnuExit_Click()
     Terminate();
 }
 
-/// Closes the windows, the last one opened first. The program ends with the last of them; the user may keep the main
-/// window open.
+/// Closes the windows, the last one opened first; the user may keep the main window open.
 void frmMain::Terminate()
 {
     if (Puzzle && Puzzle->isVisible())

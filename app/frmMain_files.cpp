@@ -57,7 +57,7 @@ void frmMain::ToolbarSave()
     else if (mnuSaveAs->isEnabled())
         mnuSaveAs_Click();
     else
-        message_boxes::Tell(this, tr("You must have at least one word to save the puzzle."));
+        ShowMessage(this, tr("You must have at least one word to save the puzzle."));
 }
 
 /// Writes the document to `fileName`. False when that fails: the document then still counts as unsaved.
@@ -81,13 +81,13 @@ bool frmMain::LoadFile(const QString& fileName)
     mnuSave->setEnabled(true);
     const document::PuzzleFile file = document::ReadPuzzle(file_bytes::Read(fileName, document::MaxFileBytes));
     if (file.marker == document::Marker::Older)
-        message_boxes::Tell(this,
-                            tr("This is a Glyphgrove 2.1 file. "
-                               "For maximum performance, saving this file will update it to 2.1.1 format."),
-                            tr("Important!"));
+        ShowMessage(this,
+                    tr("This is a Glyphgrove 2.1 file. "
+                       "For maximum performance, saving this file will update it to 2.1.1 format."),
+                    tr("Important!"));
     if (file.marker == document::Marker::Unknown) {
-        message_boxes::Tell(this, tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
-                            tr("WARNING!"));
+        ShowMessage(this, tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
+                    tr("WARNING!"));
         mnuSave->setEnabled(false);
         mnuSaveAs->setEnabled(false);
         return true;

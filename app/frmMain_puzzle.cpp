@@ -16,7 +16,7 @@ void frmMain::cmdCreatePuzzle_Click()
         return; // the session has ended meanwhile
     const auto words = lstWordlist->Words();
     if (const auto obstacle = wordlist::ObstacleToPuzzle(words)) {
-        message_boxes::Tell(this, QString::fromStdU16String(*obstacle));
+        ShowMessage(this, QString::fromStdU16String(*obstacle));
         return;
     }
     FillPuzzleWindow();

@@ -25,7 +25,7 @@ void frmMain::AddWord()
         return;
     }
     if (lstWordlist->count() >= wordlist::MaxWords) {
-        message_boxes::Tell(this, tr("40 word limit reached!"), tr("Word Limit!"));
+        ShowMessage(this, tr("40 word limit reached!"), tr("Word Limit!"));
         ClearTextbox();
         return;
     }
@@ -44,12 +44,9 @@ void frmMain::AddWord()
 /// Asks once for each entry equal to `word`; false as soon as the user says no.
 bool frmMain::UserWantsDuplicates(const QString& word)
 {
-    const auto words = lstWordlist->Words();
-    auto equals = std::ranges::count(words, word.toStdU16String());
-    while (equals-- > 0)
-        if (!message_boxes::Confirm(
-                this, tr("Word already exists in your list! Do you want to put it into your list again?"),
-                tr("Duplicate warning")))
+    for (auto equals = std::ranges::count(lstWordlist->Words(), word.toStdU16String()); equals > 0; --equals)
+        if (ShowMessage(this, tr("Word already exists in your list! Do you want to put it into your list again?"),
+                        tr("Duplicate warning"), QMessageBox::Yes | QMessageBox::No) == QMessageBox::No)
             return false;
     return true;
 }

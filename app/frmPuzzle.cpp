@@ -92,16 +92,10 @@ void frmPuzzle::SetWord(int index, const QString& word)
 
 void frmPuzzle::PuzzleToolbar_ButtonClick(int index)
 {
-    switch (index) {
-    case 1:
+    if (index == 1)
         cmdPrint_Click();
-        break;
-    case 2:
+    else if (index == 2)
         close();
-        break;
-    default:
-        break;
-    }
 }
 
 void frmPuzzle::cmdPrint_Click()

@@ -61,12 +61,10 @@ public:
     {
         if (index < 0 || index >= childCount())
             return nullptr;
-        const auto known = Rows.find(index);
-        if (known != Rows.end())
-            return QAccessible::accessibleInterface(known->second);
-        auto* row = new RowOfLetters(Surface, index);
-        Rows[index] = QAccessible::registerAccessibleInterface(row);
-        return row;
+        QAccessible::Id& id = Rows[index];
+        if (id == 0)
+            id = QAccessible::registerAccessibleInterface(new RowOfLetters(Surface, index));
+        return QAccessible::accessibleInterface(id);
     }
     int indexOfChild(const QAccessibleInterface* child) const override
     {

@@ -10,22 +10,12 @@
 #include <QScrollBar>
 #include <QToolButton>
 
-namespace {
-
-/// Asks for the size of its contents, however large.
-class ClientArea : public QScrollArea {
-public:
-    QSize sizeHint() const override { return widget()->size(); }
-};
-
-} // namespace
-
 ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
 {
     if (screen != nullptr)
         setScreen(screen);
     setPalette(looks::LightYellow());
-    auto* area = new ClientArea;
+    auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setAlignment(Qt::AlignCenter);
     area->setFocusPolicy(Qt::NoFocus);
@@ -57,16 +47,15 @@ void ClientWindow::FitToScreen()
     const QSize frame = frameGeometry().size() - geometry().size();
     const QSize room = screen()->availableSize() - frame;
     const int bar = static_cast<QScrollArea*>(centralWidget())->verticalScrollBar()->sizeHint().width();
-    const QSize whole = sizeHint();
+    const QSize whole = Client->size() + QSize(0, menuWidget() != nullptr ? menuWidget()->sizeHint().height() : 0);
     const QSize bars(whole.height() > room.height() ? bar : 0, whole.width() > room.width() ? bar : 0);
     NormalSize = (whole + bars).boundedTo(room);
     setMinimumSize(NormalSize);
     if (!MayGrow())
         setMaximumSize(NormalSize);
-    else if (isVisible()) { // X11's window managers let the user drag its border in these steps only, that is, not at
-                            // all
+    else if (isVisible()) { // or the toolkit does not tell X11's window managers
         setBaseSize(NormalSize);
-        setSizeIncrement(10'000, 10'000); // the toolkit tells them only while the window is visible
+        setSizeIncrement(10'000, 10'000); // the user can drag the border in such steps only: not at all
     }
     if (!isMaximized() && !isFullScreen())
         resize(NormalSize);

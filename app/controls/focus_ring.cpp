@@ -19,9 +19,8 @@ void FocusRing::Follow(const QWidget* now)
     const bool rings = parentWidget()->isAncestorOf(now) && (qobject_cast<const QAbstractButton*>(now) != nullptr ||
                                                              qobject_cast<const MakerLink*>(now) != nullptr);
     setVisible(rings);
-    if (!rings)
-        return;
-    setGeometry(QRect(now->mapTo(parentWidget(), QPoint()), now->size()));
+    if (rings)
+        setGeometry(QRect(now->mapTo(parentWidget(), QPoint()), now->size()));
     raise();
 }
 

@@ -14,15 +14,15 @@ double ToPixels(const QWidget& widget, double twips)
     return twips * widget.logicalDpiX() / TwipsPerInch;
 }
 
-void Place(QWidget& widget, int x, int y, int width, int height, double scale)
-{
-    const auto pixels = [&widget, scale](int twips) { return qRound(ToPixels(widget, twips * scale)); };
-    widget.setGeometry(pixels(x), pixels(y), pixels(width), pixels(height));
-}
-
 QSize SizeInPixels(const QWidget& widget, int width, int height, double scale)
 {
     return {qRound(ToPixels(widget, width * scale)), qRound(ToPixels(widget, height * scale))};
+}
+
+void Place(QWidget& widget, int x, int y, int width, int height, double scale)
+{
+    const QSize corner = SizeInPixels(widget, x, y, scale);
+    widget.setGeometry({{corner.width(), corner.height()}, SizeInPixels(widget, width, height, scale)});
 }
 
 double ScaleForFont(const QWidget& widget)

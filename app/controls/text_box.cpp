@@ -110,15 +110,11 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
     QLineEdit::contextMenuEvent(event);
 }
 
-WordBox::WordBox(QWidget* parent)
-    : TextBox({wordlist::TakesInWord, static_cast<std::size_t>(wordlist::MaxWordLength)}, parent)
-{
-}
+WordBox::WordBox(QWidget* parent) : TextBox({wordlist::TakesInWord, wordlist::MaxWordLength}, parent) {}
 
 void WordBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool control = event->modifiers().testFlag(Qt::ControlModifier) &&
-                         !event->modifiers().testFlag(Qt::AltModifier); // with Alt it is AltGr
+    const bool control = (event->modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier; // with Alt it is AltGr
     if (control && event->key() >= Qt::Key_At && event->key() <= Qt::Key_Underscore)
         event->ignore(); // for the window
     else

@@ -39,11 +39,6 @@ void WordList::Insert(int position, const QString& word)
     insertItem(position, entry);
 }
 
-void WordList::Remove(int position)
-{
-    delete takeItem(position);
-}
-
 void WordList::Replace(int position, const QString& word)
 {
     const int current = currentRow();

@@ -20,7 +20,7 @@ public:
     std::vector<std::u16string> Words() const;
     void Insert(int position, const QString& word);
     /// Removes an entry. If it was selected, no other entry becomes selected.
-    void Remove(int position);
+    void Remove(int position) { delete takeItem(position); }
     /// Replaces an entry with `word`. It stays current, but is no longer selected.
     void Replace(int position, const QString& word);
     int SelectedPosition() const; ///< -1 when nothing is selected

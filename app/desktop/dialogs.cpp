@@ -1,6 +1,5 @@
 #include "app/desktop/dialogs.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -19,16 +18,6 @@ void CloseMenus()
 }
 
 } // namespace
-
-bool CommandsMayStart()
-{
-    return QApplication::activeModalWidget() == nullptr;
-}
-
-bool AnyWindowMayGrow()
-{
-    return QGuiApplication::platformName() == "wayland";
-}
 
 DialogKeeper::DialogKeeper()
 {

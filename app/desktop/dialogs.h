@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QObject>
+#include <QApplication>
 
 /// False while a dialog is open. Keys pressed before it opened can still reach the window below it.
-bool CommandsMayStart();
+inline bool CommandsMayStart()
+{
+    return QApplication::activeModalWidget() == nullptr;
+}
 
 /// Looks after every dialog that opens during its lifetime, including the toolkit's own. It closes open menus, which
 /// would keep the keyboard. Under Wayland it lets dialogs grow: some compositors offer to maximise them and kill a
@@ -17,4 +20,7 @@ protected:
 };
 
 /// Whether the desktop may maximise windows that do not offer it.
-bool AnyWindowMayGrow();
+inline bool AnyWindowMayGrow()
+{
+    return QGuiApplication::platformName() == "wayland";
+}

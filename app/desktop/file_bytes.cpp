@@ -10,9 +10,8 @@ namespace {
 /// Follows symbolic links to their end, which need not exist; stops after 40, as desktops do.
 QString EndOfLinks(const QString& path)
 {
-    constexpr int LongestChain = 40;
     QFileInfo there(path);
-    for (int links = 0; there.isSymLink() && links < LongestChain; ++links)
+    for (int links = 0; there.isSymLink() && links < 40; ++links)
         there.setFile(there.symLinkTarget());
     return there.filePath();
 }

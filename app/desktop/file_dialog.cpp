@@ -45,7 +45,7 @@ void FileDialog::accept()
 {
     const QStringList files = selectedFiles();
     if (!files.isEmpty() && !FolderExists(files.constFirst()))
-        message_boxes::Tell(this, tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
+        ShowMessage(this, tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
     else
         QFileDialog::accept();
 }

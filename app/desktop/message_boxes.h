@@ -4,15 +4,7 @@
 
 #include <QMessageBox>
 
-/// The program's message boxes: modal, plain text, no icon. Closing one means its most cautious button.
-namespace message_boxes {
-
-void Tell(QWidget* owner, const QString& text, const QString& title = program::Name);
-
-/// Yes is the default; closing the box means No.
-bool Confirm(QWidget* owner, const QString& text, const QString& title);
-
-/// Yes, No or Cancel; Yes is the default; closing the box means Cancel.
-QMessageBox::StandardButton AskToSave(QWidget* owner, const QString& text, const QString& title);
-
-} // namespace message_boxes
+/// Shows a message box over `owner`, modal, in plain text and without an icon. Yes is the default button, or else OK.
+/// Returns the button pressed; closing the box means Cancel if there is such a button, else No, else OK.
+QMessageBox::StandardButton ShowMessage(QWidget* owner, const QString& text, const QString& title = program::Name,
+                                        QMessageBox::StandardButtons buttons = QMessageBox::Ok);
