@@ -37,6 +37,8 @@ void WordList::Insert(int position, const QString& word)
     entry->setToolTip(QString("<span>%1</span>").arg(word.toHtmlEscaped()));
     entry->setSizeHint(gridSize());
     insertItem(position, entry);
+    if (count() == 1)
+        setCurrentRow(0, QItemSelectionModel::NoUpdate); // where keys start from
 }
 
 void WordList::Replace(int position, const QString& word)

@@ -19,11 +19,6 @@ void CloseMenus()
 
 } // namespace
 
-DialogKeeper::DialogKeeper()
-{
-    qApp->installEventFilter(this);
-}
-
 bool DialogKeeper::eventFilter(QObject* object, QEvent* event)
 {
     const bool shows = event->type() == QEvent::Show;

@@ -13,7 +13,7 @@ inline bool CommandsMayStart()
 /// program whose window then keeps its size.
 class DialogKeeper : public QObject {
 public:
-    DialogKeeper();
+    DialogKeeper() { qApp->installEventFilter(this); }
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

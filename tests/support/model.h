@@ -66,6 +66,7 @@ struct Model : Seen {
         for (int* position : {&Selected, &LookedAt})
             *position += place - Words.begin() <= *position ? 1 : 0;
         Words.insert(place, Word);
+        LookedAt = std::max(LookedAt, 0);
         SaveAs = true;
         Save = Save || !DocFileName.isEmpty();
         ShowChange();
@@ -130,6 +131,7 @@ struct Model : Seen {
         Save = SaveAs = TitleSet = true;
         Title = marker.isEmpty() ? Title : file.takeFirst();
         Words = file.first(std::max(file.size() - 1, qsizetype(0)));
+        LookedAt = Words.isEmpty() ? -1 : 0;
         Caption = "Glyphgrove-" + Title;
     }
     void Write(const QString& path)
@@ -184,15 +186,10 @@ struct Model : Seen {
                 box.replace(at++, std::exchange(selected, 0), c);
         }
     }
-    void FocusList()
-    {
-        LeaveTitle();
-        LookedAt = LookedAt < 0 && !Words.isEmpty() ? 0 : LookedAt;
-    }
     /// A key in the list moves the current entry, and chooses it if Ctrl is up.
     void PressInList(const QString& key)
     {
-        FocusList();
+        LeaveTitle();
         const int last = static_cast<int>(Words.size()) - 1;
         const QString bare = key.section('+', -1);
         if (bare == "Up" || bare == "Down")
@@ -246,7 +243,7 @@ struct Model : Seen {
             {"waiting", {!InTitle, [&] { LeaveTitle(), PressWaiting(about.split(' ')); }}},
             {"clicktitle", {true, [&] { ClickTitle(); }}},
             {"leave", {true, [&] { LeaveTitle(); }}},
-            {"tabs", {true, [&] { FocusList(), InTitle = true, LeaveTitle(); }}},
+            {"tabs", {true, [&] { InTitle = true, LeaveTitle(); }}},
             {"pick", {about.toInt() < Words.size(), [&] { Pick(about.toInt()); }}},
             {"edit", {EditButtons, [&] { EditWord(); }}},
             {"delete", {EditButtons, [&] { LeaveTitle(), Delete(false); }}},
