@@ -21,7 +21,7 @@ QIcon ForToolbar(const QString& name)
 QIcon OfProgram()
 {
     QIcon icon;
-    for (const int size : {16, 32, 48, 64}) // for title bars and task bars; the desktop finds larger ones itself
+    for (const int size : {16, 32, 48}) // for title bars and task bars; the desktop finds larger ones itself
         icon.addFile(QString(":/pictures/glyphgrove-%1.png").arg(size), QSize(size, size));
     return icon;
 }

@@ -67,10 +67,11 @@ QPalette LightYellow()
 void OutlineControls(const QWidget& window)
 {
     for (QWidget* control : window.findChildren<QWidget*>()) {
+        if (!control->inherits("QPushButton") && !control->inherits("QLineEdit") && !control->inherits("QListView") &&
+            !control->inherits("QScrollBar"))
+            continue;
         QPalette palette = control->palette();
-        if (control->inherits("QPushButton") || control->inherits("QLineEdit") || control->inherits("QListView") ||
-            control->inherits("QScrollBar"))
-            palette.setColor(QPalette::Window, QColor(176, 176, 140)); // styles draw borders in a darker shade of it
+        palette.setColor(QPalette::Window, QColor(176, 176, 140)); // styles draw borders in a darker shade of it
         control->setPalette(palette);
     }
 }
