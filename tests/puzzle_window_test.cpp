@@ -187,7 +187,14 @@ private slots:
         Run("over:t,0,99," + QString(30, 'W'));
         QVERIFY(Ink(label).width() > 8 * two && Ink(label).width() < 670 && label.toolTip().isEmpty());
         Run("word:CAT no create");
-        QCOMPARE(Find<QWidget>(*ShownWindow("frmPuzzle"), "lblBigTitle").height(), 50); // two lines
+        auto& twoLines = Find<QLabel>(*ShownWindow("frmPuzzle"), "lblBigTitle");
+        QCOMPARE(twoLines.height(), 50);
+        QImage pictures[2];
+        for (const char* text : {"GEOGRAPHY OF SOUTH AMERICA", "GEOGRAPHY OF SOUTH\nAMERICA"}) {
+            twoLines.setText(text);
+            std::swap(pictures[0], pictures[1] = twoLines.grab().toImage());
+        }
+        QCOMPARE(pictures[0], pictures[1]); // lines break between words
         const QString title(3000, 'W');
         Control<QLineEdit>("txtTitle").setText(title);
         QVERIFY(Ink(label).width() > 600 && Ink(label).width() < 670 && label.toolTip().contains(title));
