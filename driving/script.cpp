@@ -72,7 +72,6 @@ Script::Steps Script::ActionSteps(const QString& about)
         {"print", [=] { ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", "Print").click(); }},
         {"back", [=] { ToolButton(*ShownWindow("frmPuzzle"), "PuzzleToolbar", "Back").click(); }},
         {"closepuzzle", [=] { ShownWindow("frmPuzzle")->close(); }},
-        {"closetwice", [shown = ShownWindow("frmPuzzle")] { shown->close(), shown->close(); }},
         {"closemain", [=, this] { Window->close(); }},
         {"taskbar", [=, this] { Window->showMinimized(), Window->showNormal(); }},
     };

@@ -22,7 +22,7 @@ namespace driving {
 ///     pick:N double:N look:KEY edit delete    list: click or double-click entry N, from 0; press a key
 ///     leave tabs key:KEYS                     focus the word box; press Tab from the list; press keys
 ///     create tool:KEY menu:AB openmenu:A      buttons, toolbar; menus by their access keys
-///     print back closepuzzle closetwice       puzzle window
+///     print back closepuzzle       puzzle window
 ///     closemain taskbar                       close the main window; minimise and restore it
 ///     yes no cancel ok escape end file:NAME pdf:NAME
 ///                                             the answer to a later question; "end" ends the desktop session

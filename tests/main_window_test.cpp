@@ -27,12 +27,14 @@ private slots:
         QCOMPARE("? " + Boxes(), lines.value(2, "? "));
     }
 
-    /// The new name is too long for any disk. Save still writes to the earlier file.
+#ifdef Q_OS_UNIX
+    /// A device is no file. Save still writes to the earlier one.
     void KeepsTheFileNameWhenSavingAsFails()
     {
-        Run("word:CAT file:new.pux menu:fe word:DOG file:" + QString(300, 'x') + " menu:fe word:EEL menu:fv");
+        Run("word:CAT file:new.pux menu:fe word:DOG file:/dev/full yes menu:fe word:EEL menu:fv");
         QCOMPARE(Files("new*").value("new.pux"), "2.2/New Puzzle/CAT/DOG/EEL/");
     }
+#endif
 
     /// The buttons of the boxes, with the default one last, and the types, folder and name that dialogs open with.
     void AsksForWhatItNeeds()

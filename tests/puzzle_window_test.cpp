@@ -2,6 +2,7 @@
 #include "tests/support/window_script.h"
 
 #include <QAccessible>
+#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QMetaEnum>
 
@@ -143,6 +144,19 @@ private slots:
         Step("back");
         Window->move(10, 10);
         QTRY_COMPARE(Window->size(), whole);
+    }
+
+    /// A command over the bus while a dialog is open does nothing; a second request to close a window neither.
+    void TakesOneThingAfterTheOther()
+    {
+        Answering.Expect([this](QDialog& about) { Control<QAction>("mnuOpen").trigger(), about.reject(); });
+        Run("menu:ha word:CAT no create");
+        QCOMPARE(Boxes(), "frmAbout save?");
+        QWidget* puzzle = ShownWindow("frmPuzzle");
+        puzzle->close();
+        QCloseEvent again;
+        QApplication::sendEvent(puzzle, &again);
+        QVERIFY(Window->isVisible());
     }
 
     /// The window is larger with a larger font, so that all texts fit.
