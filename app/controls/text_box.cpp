@@ -49,14 +49,11 @@ QValidator::State TextValidator::validate(QString& text, int& cursor) const
     if (!edited || length <= 0 || !text.startsWith(Before.left(Start)) ||
         !text.endsWith(Before.mid(Start + Replaced)))
         return Acceptable;
-    const QString inserted = text.mid(Start, length);
-    const QString admitted = Admitted(inserted);
+    const QString admitted = Admitted(text.mid(Start, length));
     if (admitted.isEmpty())
         return Invalid;
-    if (admitted != inserted) {
-        text.replace(Start, length, admitted);
-        cursor = static_cast<int>(Start + admitted.size());
-    }
+    text.replace(Start, length, admitted);
+    cursor = static_cast<int>(Start + admitted.size());
     return Acceptable;
 }
 
@@ -77,9 +74,7 @@ TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
     const QString typed = event->text();
-    if (typed.size() == 1 && typed.at(0).isPrint() && Validator->Admitted(typed).isEmpty())
-        event->accept();
-    else
+    if (typed.size() != 1 || !typed.at(0).isPrint() || !Validator->Admitted(typed).isEmpty())
         QLineEdit::keyPressEvent(event);
 }
 
@@ -97,8 +92,7 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event)
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    const bool clicks = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
-    if (clicks && rect().contains(event->position().toPoint()))
+    if (event->button() != Qt::RightButton && rect().contains(event->position().toPoint()))
         emit Clicked();
     QLineEdit::mouseReleaseEvent(event);
 }
