@@ -129,6 +129,7 @@ private slots:
         QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), title.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&title, &menu);
         QCOMPARE(title.text(), QString());
+        QVERIFY(QApplication::activePopupWidget() != nullptr);
         delete QApplication::activePopupWidget();
         title.setText("Pets");
         QTest::mouseClick(&title, Qt::MiddleButton);
