@@ -112,6 +112,7 @@ private:
     QWidget* FocusBeforePuzzle = nullptr;
 
     bool Saved = true;       ///< no unsaved changes
+    bool AsksToSave = false; ///< the question whether to save is being asked
     bool TitleSet = false;   ///< the title box holds a title that a click must not clear
     bool InTitleBox = false; ///< the title box has the focus, or had it when the user left the window
     QString DocFileName;     ///< the file that Save writes; empty when there is none

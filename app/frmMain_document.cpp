@@ -1,17 +1,23 @@
 #include "app/controls/looks.h"
+#include "app/desktop/dialogs.h"
 #include "app/desktop/message_boxes.h"
 #include "app/frmMain.h"
 #include "app/program.h"
 
 #include <QCloseEvent>
+#include <QScopedValueRollback>
 
 #include <utility>
 
-/// Offers to save unsaved changes. True when the user cancels.
+/// Offers to save unsaved changes. True when the user cancels, or has not answered yet: the session may end several
+/// times while the question is open.
 bool frmMain::CheckForSave()
 {
     if (Saved)
         return false;
+    if (AsksToSave && !CommandsMayStart())
+        return true;
+    const QScopedValueRollback asks(AsksToSave, true);
     switch (ShowMessage(this, tr("Do you want to save the changes you made to your Glyphgrove?"), tr("Important"),
                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
     case QMessageBox::Yes:

@@ -145,12 +145,14 @@ private slots:
         QTRY_COMPARE(Window->size(), whole);
     }
 
-    /// A command over the bus while a dialog is open does nothing; a second request to close a window neither.
+    /// A command over the bus while a dialog is open does nothing; a second request to close a window neither. While
+    /// the user is asked whether to save, the end of the session does not ask again.
     void TakesOneThingAfterTheOther()
     {
         Answering.Expect([this](QDialog& about) { Control<QAction>("mnuOpen").trigger(), about.reject(); });
-        Run("menu:ha word:CAT no create");
-        QCOMPARE(Boxes(), "frmAbout save?");
+        Answering.Expect([this](QDialog& box) { Window->Form_QueryUnload(), box.reject(); });
+        Run("menu:ha word:CAT menu:fn no create");
+        QCOMPARE(Boxes(), "frmAbout save? save?");
         QWidget* puzzle = ShownWindow("frmPuzzle");
         puzzle->close();
         QCloseEvent again;
