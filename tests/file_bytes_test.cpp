@@ -11,6 +11,9 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#else
+#include <future>
+#include <windows.h>
 #endif
 
 namespace {
@@ -125,6 +128,21 @@ private:
         return (!root || setresuid(0, 0, 0) == 0) && saved;
     }
 #else
+    /// A virus scanner may hold the file for a moment, an editor for longer.
+    void WaitsForAFileThatIsHeld()
+    {
+        for (const DWORD milliseconds : {300UL, 5000UL}) {
+            const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(File.utf16()), GENERIC_READ, 0, nullptr,
+                                            OPEN_EXISTING, 0, nullptr);
+            QVERIFY(held != INVALID_HANDLE_VALUE);
+            const auto letGo = std::async(std::launch::async, [=] { Sleep(milliseconds), CloseHandle(held); });
+            QCOMPARE(file_bytes::Save(File, milliseconds < 1000 ? "new" : "newer"), milliseconds < 1000);
+            letGo.wait();
+            QCOMPARE(Contents(File), "new");
+            QCOMPARE(Folder.entryList(QDir::Files).size(), 1);
+        }
+    }
+
 private:
 #endif
     std::unique_ptr<QTemporaryDir> Disk;

@@ -2,10 +2,18 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QThread>
 
 namespace file_bytes {
 
 namespace {
+
+#ifdef Q_OS_WIN // a virus scanner or a synchronised folder may hold the file for a moment
+constexpr int MostTries = 10;
+#else
+constexpr int MostTries = 1;
+#endif
+constexpr unsigned long MillisecondsBetweenTries = 100;
 
 /// Follows symbolic links to their end, which need not exist; stops after 40, as desktops do.
 QString EndOfLinks(const QString& path)
@@ -51,12 +59,21 @@ bool Save(const QString& path, const std::string& bytes)
     if (there.isSymLink() || (there.exists() && !there.isFile()))
         return false;
     const QByteArray contents = QByteArray::fromStdString(bytes);
-    QSaveFile file(target);
-    // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
-    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() && file.commit())
-        return true;
-    const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
-    return refused && there.exists() && WriteInPlace(target, contents);
+    for (int tries = 0; tries < MostTries; ++tries) {
+        if (tries > 0)
+            QThread::msleep(MillisecondsBetweenTries);
+        QSaveFile file(target);
+        // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
+        if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() &&
+            file.commit())
+            return true;
+        const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
+        if (!refused || !there.isWritable())
+            return false;
+        if (WriteInPlace(target, contents))
+            return true;
+    }
+    return false;
 }
 
 } // namespace file_bytes

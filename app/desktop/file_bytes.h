@@ -11,8 +11,8 @@ namespace file_bytes {
 std::string Read(const QString& path, std::size_t most);
 
 /// Saves `bytes` at `path`, or where a link there leads. The new file is written beside the old one and replaces it
-/// when complete. Only if the folder does not allow that, the old file is overwritten. False on failure: the old file
-/// is then unchanged to the byte.
+/// when complete. Only if the folder does not allow that, the old file is overwritten. On Windows, tries again for a
+/// second while another program holds the old file. False on failure: the old file is then unchanged to the byte.
 bool Save(const QString& path, const std::string& bytes);
 
 } // namespace file_bytes
