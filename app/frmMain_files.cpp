@@ -18,8 +18,8 @@ void frmMain::mnuOpen_Click()
 {
     if (CheckForSave())
         return;
-    const QString fileName =
-        FileDialog::Ask(QFileDialog::AcceptOpen, {PuzzleFiles}, ProposedFolder(), RememberedName, this);
+    const QString fileName = FileDialog::Ask(
+        {QFileDialog::AcceptOpen, tr("Open"), {PuzzleFiles}, ProposedFolder(), RememberedName, {}}, this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;
@@ -40,8 +40,9 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    const QString fileName =
-        FileDialog::Ask(QFileDialog::AcceptSave, {PuzzleFiles, AllFiles}, ProposedFolder(), RememberedName, this);
+    const QString fileName = FileDialog::Ask(
+        {QFileDialog::AcceptSave, tr("Save As"), {PuzzleFiles, AllFiles}, ProposedFolder(), RememberedName, {}},
+        this);
     if (fileName.isEmpty())
         return;
     RememberedName = fileName;

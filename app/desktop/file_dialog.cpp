@@ -16,25 +16,25 @@ bool FolderExists(const QString& path)
 
 } // namespace
 
-QString FileDialog::Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-                        QWidget* owner, const QString& objectName)
+QString FileDialog::Ask(const Question& question, QWidget* owner)
 {
 #ifdef Q_OS_WIN
     if (!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs))
-        return AskWindowsForFile(mode, filters, folder, name, *owner);
+        return AskWindowsForFile(question, *owner);
 #endif
     FileDialog dialog(owner);
-    dialog.setObjectName(objectName);
-    dialog.setAcceptMode(mode);
+    dialog.setObjectName(question.objectName);
+    dialog.setAcceptMode(question.mode);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setWindowTitle(mode == AcceptOpen ? tr("Open") : tr("Save As")); // some desktops add none of their own
+    dialog.setWindowTitle(question.title); // some desktops add none of their own
     QStringList names;
-    for (const Filter& filter : filters)
+    for (const Filter& filter : question.filters)
         names += QString("%1 (%2)").arg(filter.label, filter.pattern);
     dialog.setOption(HideNameFilterDetails); // the pattern just added; the label may name another
     dialog.setNameFilters(names);
-    dialog.setDirectory(folder);
-    dialog.selectFile(name);
+    dialog.setDefaultSuffix(question.suffix);
+    dialog.setDirectory(question.folder);
+    dialog.selectFile(question.name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     const QString path = dialog.selectedFiles().constFirst();

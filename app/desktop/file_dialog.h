@@ -13,10 +13,19 @@ public:
         QString pattern;
     };
 
-    /// Runs a dialog, called `objectName`, that first shows `name`, a name in `folder` or a path. Returns the chosen
-    /// path unchanged, or nothing when the user cancels or the path's folder does not exist.
-    static QString Ask(AcceptMode mode, const QList<Filter>& filters, const QDir& folder, const QString& name,
-                       QWidget* owner, const QString& objectName = "dlgFileName");
+    struct Question {
+        AcceptMode mode;
+        QString title;
+        QList<Filter> filters;
+        QDir folder;
+        QString name;   ///< what the dialog first shows: a name in `folder` or a path
+        QString suffix; ///< added to a name that has none; empty to leave every name as typed
+        QString objectName = "dlgFileName";
+    };
+
+    /// Runs a dialog over `owner`. Returns the chosen path, or nothing when the user cancels or the path's folder
+    /// does not exist.
+    static QString Ask(const Question& question, QWidget* owner);
 
 protected:
     /// A typed path may name a file that does not exist, but its folder must exist.

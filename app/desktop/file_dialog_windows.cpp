@@ -50,10 +50,9 @@ QString ChosenPath(IFileDialog& dialog)
 
 } // namespace
 
-QString AskWindowsForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::Filter>& filters, const QDir& folder,
-                          const QString& name, QWidget& owner)
+QString AskWindowsForFile(const FileDialog::Question& question, QWidget& owner)
 {
-    const bool save = mode == QFileDialog::AcceptSave;
+    const bool save = question.mode == QFileDialog::AcceptSave;
     void* object = nullptr;
     CoCreateInstance(save ? CLSID_FileSaveDialog : CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER,
                      IID_IFileDialog, &object);
@@ -61,12 +60,15 @@ QString AskWindowsForFile(QFileDialog::AcceptMode mode, const QList<FileDialog::
     if (!dialog)
         return {};
     const DWORD options = FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_DONTADDTORECENT;
-    dialog->SetOptions(save ? options | FOS_OVERWRITEPROMPT : options);
-    dialog->SetTitle(save ? L"Save As" : L"Open");
-    SetFilters(*dialog, filters);
-    const QFileInfo proposed(name);
-    SetFolder(*dialog, proposed.isAbsolute() ? proposed.path() : folder.path());
-    dialog->SetFileName(Wide(proposed.isAbsolute() ? proposed.fileName() : name));
+    dialog->SetOptions(save ? options | FOS_OVERWRITEPROMPT | FOS_NOREADONLYRETURN : options);
+    dialog->SetTitle(Wide(question.title));
+    SetFilters(*dialog, question.filters);
+    if (!question.suffix.isEmpty())
+        dialog->SetDefaultExtension(Wide(question.suffix));
+    const QFileInfo proposed(question.name);
+    SetFolder(*dialog, proposed.isAbsolute() ? proposed.path() : question.folder.path());
+    const QString name = proposed.isAbsolute() ? proposed.fileName() : question.name;
+    dialog->SetFileName(Wide(name));
     const HRESULT answer = dialog->Show(reinterpret_cast<HWND>(owner.window()->winId()));
     dialog->ClearClientData(); // the folder, size and position that Windows has just stored for the next run
     return answer == S_OK ? ChosenPath(*dialog) : QString();
