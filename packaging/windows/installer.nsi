@@ -1,5 +1,6 @@
 ; The installer: for the user who runs it, without an administrator's rights. It is given VERSION, FILES (the folder
-; to install), REMOVE (the uninstaller's list of it), SIZE in KiB and OUTPUT.
+; to install), REMOVE (the uninstaller's list of it), SIZE in KiB and OUTPUT. Installer and uninstaller end with exit
+; code 2, and change nothing, while the program is running and the user does not close it.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -10,6 +11,7 @@ ManifestDPIAware true
 !define ENTRIES "Software\Microsoft\Windows\CurrentVersion\Uninstall"
 !define ENTRY "${ENTRIES}\Glyphgrove"
 !define PROGRAMS "$LOCALAPPDATA\Programs"
+!define EXAMPLES "$DOCUMENTS\Glyphgrove Examples"
 
 Name Glyphgrove
 OutFile "${OUTPUT}"
@@ -34,7 +36,29 @@ VIAddVersionKey LegalCopyright "MIT licence"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
+; Windows locks the file of a running program.
+!macro AskToClose
+    again:
+    IfFileExists "$INSTDIR\glyphgrove.exe" 0 closed
+    ClearErrors
+    FileOpen $0 "$INSTDIR\glyphgrove.exe" a
+    IfErrors running
+    FileClose $0
+    Goto closed
+    running:
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Glyphgrove is running. Please close it, then choose Retry." \
+        /SD IDCANCEL IDRETRY again
+    SetErrorLevel 2
+    Quit
+    closed:
+!macroend
+
 Section
+    !insertmacro AskToClose
+    SetOutPath "${EXAMPLES}" ; where the program's Open looks first
+    SetOverwrite off
+    File "${FILES}/examples/*"
+    SetOverwrite on
     SetOutPath "$INSTDIR"
     File /r "${FILES}/*"
     WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -51,13 +75,27 @@ Section
     WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
 SectionEnd
 
-; What was installed and nothing else: the user may keep files of his own there, and other programs may be listed.
+; An example that the user has saved again has another time.
+!macro DeleteExample NAME
+    GetFileTime "$INSTDIR\examples\${NAME}" $0 $1
+    GetFileTime "${EXAMPLES}\${NAME}" $2 $3
+    StrCmp "$0 $1" "$2 $3" 0 +2
+    Delete "${EXAMPLES}\${NAME}"
+!macroend
+
+; What was installed and nothing else: the user may keep files of his own there, and other programs may be listed. What
+; is needed to try again goes last.
 Section Uninstall
-    !include "${REMOVE}"
+    !insertmacro AskToClose
+    !include "${REMOVE}" ; goes to "left" if a file cannot be deleted
+    RMDir "${EXAMPLES}"
+    Delete "$SMPROGRAMS\Glyphgrove.lnk"
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
     RMDir "${PROGRAMS}"
-    Delete "$SMPROGRAMS\Glyphgrove.lnk"
     DeleteRegKey HKCU "${ENTRY}"
     DeleteRegKey /ifempty HKCU "${ENTRIES}"
+    Return
+    left:
+    Abort "Another program is using some of the files. Please try again."
 SectionEnd
