@@ -38,7 +38,7 @@ void frmAbout::BuildTexts()
                "puzzle sizing from 10 X 10 to 30 X 30, automatic aphabetizing and word list save and edit "
                "features."),
             495, 1005);
-    AddText(QString("lblVersion"), tr("Version %1").arg(program::Version), 1560, 255);
+    AddText("lblVersion", tr("Version %1").arg(program::Version), 1560, 255);
     AddText("lblNotice", program::NoticeLine, 1830, 255);
 }
 
@@ -56,7 +56,6 @@ void frmAbout::BuildButton()
 {
     auto* cmdOK = new QPushButton(tr("OK"), this);
     cmdOK->setObjectName("cmdOK");
-    cmdOK->setDefault(true);
     cmdOK->setFocus();
     // With the focus on the link, Return opens the page.
     connect(qApp, &QApplication::focusChanged, cmdOK, [this, cmdOK](const QWidget* /*old*/, const QWidget* now) {

@@ -235,8 +235,7 @@ void frmMain::Toolbar1_ButtonClick(int index)
     case 3:
         return ToolbarSave();
     case 4:
-        DeleteSelectedWord();
-        return;
+        return static_cast<void>(DeleteSelectedWord());
     default:
         ShowMessage(this, tr("Button not in use yet"));
     }

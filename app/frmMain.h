@@ -4,11 +4,11 @@
 #include "app/controls/text_box.h"
 #include "app/controls/title_label.h"
 #include "app/controls/word_list.h"
+#include "app/desktop/file_dialog.h"
 #include "app/frmPuzzle.h"
 #include "generator/workspace.h"
 
 #include <QAction>
-#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 
@@ -85,7 +85,7 @@ private:
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void ToolbarSave();
-    QDir ProposedFolder() const;
+    QString AskForFile(QFileDialog::AcceptMode mode, const QString& title, const QList<FileDialog::Filter>& filters);
     bool SaveFile(const QString& fileName);
     bool LoadFile(const QString& fileName);
 

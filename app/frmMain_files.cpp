@@ -1,5 +1,4 @@
 #include "app/desktop/file_bytes.h"
-#include "app/desktop/file_dialog.h"
 #include "app/desktop/folders.h"
 #include "app/desktop/message_boxes.h"
 #include "app/frmMain.h"
@@ -18,18 +17,22 @@ void frmMain::mnuOpen_Click()
 {
     if (CheckForSave())
         return;
-    const QString fileName = FileDialog::Ask(
-        {QFileDialog::AcceptOpen, tr("Open"), {PuzzleFiles}, ProposedFolder(), RememberedName, {}}, this);
+    const QString fileName = AskForFile(QFileDialog::AcceptOpen, tr("Open"), {PuzzleFiles});
     if (fileName.isEmpty())
         return;
-    RememberedName = fileName;
     const bool fileRejected = LoadFile(fileName);
     DocFileName = fileRejected ? QString() : fileName;
 }
 
-QDir frmMain::ProposedFolder() const
+/// The path that the user chose, remembered for the next dialog, or nothing.
+QString frmMain::AskForFile(QFileDialog::AcceptMode mode, const QString& title,
+                            const QList<FileDialog::Filter>& filters)
 {
-    return DocFileName.isEmpty() ? UsersDocuments() : QFileInfo(DocFileName).absoluteDir();
+    const QDir folder = DocFileName.isEmpty() ? UsersDocuments() : QFileInfo(DocFileName).absoluteDir();
+    const QString path = FileDialog::Ask({mode, title, filters, folder, RememberedName}, this);
+    if (!path.isEmpty())
+        RememberedName = path;
+    return path;
 }
 
 void frmMain::mnuSave_Click()
@@ -40,13 +43,8 @@ void frmMain::mnuSave_Click()
 void frmMain::mnuSaveAs_Click()
 {
     RememberedName = txtTitle->text();
-    const QString fileName = FileDialog::Ask(
-        {QFileDialog::AcceptSave, tr("Save As"), {PuzzleFiles, AllFiles}, ProposedFolder(), RememberedName, {}},
-        this);
-    if (fileName.isEmpty())
-        return;
-    RememberedName = fileName;
-    if (SaveFile(fileName))
+    const QString fileName = AskForFile(QFileDialog::AcceptSave, tr("Save As"), {PuzzleFiles, AllFiles});
+    if (!fileName.isEmpty() && SaveFile(fileName))
         DocFileName = fileName;
 }
 

@@ -16,18 +16,13 @@ void frmMain::cmdEnter_Click()
 void frmMain::AddWord()
 {
     const QString word = txtNewWords->text();
-    if (word.isEmpty()) {
-        FocusWordBox();
-        return;
-    }
-    if (!UserWantsDuplicates(word)) {
-        ClearTextbox();
-        return;
-    }
+    if (word.isEmpty())
+        return FocusWordBox();
+    if (!UserWantsDuplicates(word))
+        return ClearTextbox();
     if (lstWordlist->count() >= wordlist::MaxWords) {
         ShowMessage(this, tr("40 word limit reached!"), tr("Word Limit!"));
-        ClearTextbox();
-        return;
+        return ClearTextbox();
     }
     const auto position = wordlist::InsertPosition(lstWordlist->Words(), word.toStdU16String());
     lstWordlist->Insert(static_cast<int>(position), word);
@@ -130,8 +125,7 @@ void frmMain::ClearTextbox()
 void frmMain::FocusWordBox()
 {
     txtNewWords->setFocus();
-    LeaveTitleBox(); // explicitly: a window that is not active yet, as after a message box, reports no move of the
-                     // focus
+    LeaveTitleBox(); // a window that is not active yet, as after a message box, reports no move of the focus
 }
 
 void frmMain::WordCounter()

@@ -12,8 +12,7 @@
 
 ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
 {
-    if (screen != nullptr)
-        setScreen(screen);
+    setScreen(screen);
     setPalette(looks::LightYellow());
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);

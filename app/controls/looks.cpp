@@ -67,12 +67,11 @@ QPalette LightYellow()
 void OutlineControls(const QWidget& window)
 {
     for (QWidget* control : window.findChildren<QWidget*>()) {
-        if (!control->inherits("QPushButton") && !control->inherits("QLineEdit") && !control->inherits("QListView") &&
-            !control->inherits("QScrollBar"))
-            continue;
         QPalette palette = control->palette();
         palette.setColor(QPalette::Window, QColor(176, 176, 140)); // styles draw borders in a darker shade of it
-        control->setPalette(palette);
+        for (const char* kind : {"QPushButton", "QLineEdit", "QListView", "QScrollBar"})
+            if (control->inherits(kind))
+                control->setPalette(palette);
     }
 }
 

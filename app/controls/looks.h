@@ -2,7 +2,7 @@
 
 #include <QFont>
 #include <QPalette>
-#include <QRect>
+#include <QSize>
 
 class QWidget;
 

@@ -1,6 +1,7 @@
 #include "app/desktop/file_bytes.h"
 
 #include <QFileInfo>
+#include <QOperatingSystemVersion>
 #include <QSaveFile>
 #include <QThread>
 
@@ -8,12 +9,8 @@ namespace file_bytes {
 
 namespace {
 
-#ifdef Q_OS_WIN // a virus scanner or a synchronised folder may hold the file for a moment
-constexpr int MostTries = 10;
-#else
-constexpr int MostTries = 1;
-#endif
-constexpr unsigned long MillisecondsBetweenTries = 100;
+// On Windows, a virus scanner or a synchronised folder may hold the file for a moment.
+constexpr int MostTries = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows ? 10 : 1;
 
 /// Follows symbolic links to their end, which need not exist; stops after 40, as desktops do.
 QString EndOfLinks(const QString& path)
@@ -59,21 +56,20 @@ bool Save(const QString& path, const std::string& bytes)
     if (there.isSymLink() || (there.exists() && !there.isFile()))
         return false;
     const QByteArray contents = QByteArray::fromStdString(bytes);
-    for (int tries = 0; tries < MostTries; ++tries) {
-        if (tries > 0)
-            QThread::msleep(MillisecondsBetweenTries);
+    for (int tries = 1;; ++tries) {
         QSaveFile file(target);
         // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
         if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() &&
             file.commit())
             return true;
         const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
-        if (!refused || !there.isWritable())
-            return false;
-        if (WriteInPlace(target, contents))
+        const bool mayRetry = refused && there.isWritable();
+        if (mayRetry && WriteInPlace(target, contents))
             return true;
+        if (!mayRetry || tries == MostTries)
+            return false;
+        QThread::msleep(100);
     }
-    return false;
 }
 
 } // namespace file_bytes

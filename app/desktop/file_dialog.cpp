@@ -35,17 +35,15 @@ QString FileDialog::Ask(const Question& question, QWidget* owner)
     dialog.setDefaultSuffix(question.suffix);
     dialog.setDirectory(question.folder);
     dialog.selectFile(question.name);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    const QString path = dialog.selectedFiles().constFirst();
+    const QString path = dialog.exec() == Accepted ? dialog.selectedFiles().value(0) : QString();
     return FolderExists(path) ? path : QString();
 }
 
 void FileDialog::accept()
 {
-    const QStringList files = selectedFiles();
-    if (!files.isEmpty() && !FolderExists(files.constFirst()))
-        ShowMessage(this, tr("There is no such folder:\n%1").arg(QFileInfo(files.constFirst()).path()));
+    const QString path = selectedFiles().value(0);
+    if (!FolderExists(path))
+        ShowMessage(this, tr("There is no such folder:\n%1").arg(QFileInfo(path).path()));
     else
         QFileDialog::accept();
 }

@@ -18,8 +18,8 @@ public:
         QString title;
         QList<Filter> filters;
         QDir folder;
-        QString name;   ///< what the dialog first shows: a name in `folder` or a path
-        QString suffix; ///< added to a name that has none; empty to leave every name as typed
+        QString name;        ///< what the dialog first shows: a name in `folder` or a path
+        QString suffix = {}; ///< added to a name that has none; empty to leave every name as typed
         QString objectName = "dlgFileName";
     };
 

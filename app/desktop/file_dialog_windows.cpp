@@ -2,16 +2,12 @@
 
 #include <shobjidl.h>
 
-#include <memory>
 #include <vector>
+#include <wrl/client.h>
 
 namespace {
 
-struct Release {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class T>
-using Owned = std::unique_ptr<T, Release>;
+using Microsoft::WRL::ComPtr;
 
 const wchar_t* Wide(const QString& text)
 {
@@ -28,20 +24,17 @@ void SetFilters(IFileDialog& dialog, const QList<FileDialog::Filter>& filters)
 
 void SetFolder(IFileDialog& dialog, const QString& path)
 {
-    void* folder = nullptr;
+    ComPtr<IShellItem> folder;
     const QString native = QDir::toNativeSeparators(path);
-    if (SUCCEEDED(SHCreateItemFromParsingName(Wide(native), nullptr, IID_IShellItem, &folder)))
-        dialog.SetFolder(Owned<IShellItem>(static_cast<IShellItem*>(folder)).get());
+    if (SUCCEEDED(SHCreateItemFromParsingName(Wide(native), nullptr, IID_PPV_ARGS(&folder))))
+        dialog.SetFolder(folder.Get());
 }
 
 QString ChosenPath(IFileDialog& dialog)
 {
-    IShellItem* item = nullptr;
-    if (FAILED(dialog.GetResult(&item)))
-        return {};
-    const Owned<IShellItem> chosen(item);
+    ComPtr<IShellItem> chosen;
     wchar_t* text = nullptr;
-    if (FAILED(chosen->GetDisplayName(SIGDN_FILESYSPATH, &text)))
+    if (FAILED(dialog.GetResult(&chosen)) || FAILED(chosen->GetDisplayName(SIGDN_FILESYSPATH, &text)))
         return {};
     const QString path = QDir::fromNativeSeparators(QString::fromWCharArray(text));
     CoTaskMemFree(text);
@@ -53,23 +46,22 @@ QString ChosenPath(IFileDialog& dialog)
 QString AskWindowsForFile(const FileDialog::Question& question, QWidget& owner)
 {
     const bool save = question.mode == QFileDialog::AcceptSave;
-    void* object = nullptr;
+    ComPtr<IFileDialog> dialog;
     CoCreateInstance(save ? CLSID_FileSaveDialog : CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER,
-                     IID_IFileDialog, &object);
-    const Owned<IFileDialog> dialog(static_cast<IFileDialog*>(object));
+                     IID_PPV_ARGS(&dialog));
     if (!dialog)
         return {};
     const DWORD options = FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_DONTADDTORECENT;
     dialog->SetOptions(save ? options | FOS_OVERWRITEPROMPT | FOS_NOREADONLYRETURN : options);
     dialog->SetTitle(Wide(question.title));
-    SetFilters(*dialog, question.filters);
+    SetFilters(*dialog.Get(), question.filters);
     if (!question.suffix.isEmpty())
         dialog->SetDefaultExtension(Wide(question.suffix));
     const QFileInfo proposed(question.name);
-    SetFolder(*dialog, proposed.isAbsolute() ? proposed.path() : question.folder.path());
+    SetFolder(*dialog.Get(), proposed.isAbsolute() ? proposed.path() : question.folder.path());
     const QString name = proposed.isAbsolute() ? proposed.fileName() : question.name;
     dialog->SetFileName(Wide(name));
     const HRESULT answer = dialog->Show(reinterpret_cast<HWND>(owner.window()->winId()));
     dialog->ClearClientData(); // the folder, size and position that Windows has just stored for the next run
-    return answer == S_OK ? ChosenPath(*dialog) : QString();
+    return answer == S_OK ? ChosenPath(*dialog.Get()) : QString();
 }

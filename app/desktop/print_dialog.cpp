@@ -25,13 +25,9 @@ QString ProposedPdf(const QString& title)
 /// Without a printer, Windows has no print dialog to show.
 bool AskForPdf(QPrinter& printer, QWidget& owner)
 {
-    const QString path = FileDialog::Ask({QFileDialog::AcceptSave,
-                                          QObject::tr("Print to PDF"),
-                                          {{"PDF Files (*.pdf)", "*.pdf"}},
-                                          UsersDocuments(),
-                                          ProposedPdf(printer.docName()),
-                                          "pdf",
-                                          DialogName},
+    const QList<FileDialog::Filter> filters{{"PDF Files (*.pdf)", "*.pdf"}};
+    const QString path = FileDialog::Ask({QFileDialog::AcceptSave, QObject::tr("Print to PDF"), filters,
+                                          UsersDocuments(), ProposedPdf(printer.docName()), "pdf", DialogName},
                                          &owner);
     printer.setOutputFileName(path);
     printer.setOutputFormat(QPrinter::PdfFormat); // whatever the name
