@@ -160,6 +160,17 @@ private slots:
         QVERIFY(Window->isVisible());
     }
 
+    /// Some styles leave room below the menu bar.
+    void ShowsItsWholeClientAreaInEveryStyle()
+    {
+        for (const char* style : {"Windows", "Fusion"}) {
+            QApplication::setStyle(style);
+            Start();
+            const auto& client = Control<QWidget>("client");
+            QCOMPARE(client.visibleRegion().boundingRect(), client.rect());
+        }
+    }
+
     /// The window is larger with a larger font, so that all texts fit.
     void GrowsWithTheInterfacesFont()
     {

@@ -43,10 +43,10 @@ bool ClientWindow::MayGrow() const
 
 void ClientWindow::FitToScreen()
 {
-    const QSize frame = frameGeometry().size() - geometry().size();
-    const QSize room = screen()->availableSize() - frame;
+    const QSize room = screen()->availableSize() - (frameGeometry().size() - geometry().size());
     const int bar = static_cast<QScrollArea*>(centralWidget())->verticalScrollBar()->sizeHint().width();
-    const QSize whole = Client->size() + QSize(0, menuWidget() != nullptr ? menuWidget()->sizeHint().height() : 0);
+    const int menu = menuWidget() != nullptr ? menuWidget()->heightForWidth(Client->width()) : 0;
+    const QSize whole = Client->size() + QSize(0, menu);
     const QSize bars(whole.height() > room.height() ? bar : 0, whole.width() > room.width() ? bar : 0);
     NormalSize = (whole + bars).boundedTo(room);
     setMinimumSize(NormalSize);
