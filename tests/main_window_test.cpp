@@ -64,7 +64,7 @@ private slots:
         }
         const QString print = asked.takeLast(); // not every desktop has a dialog that prints to files
         QVERIFY(print == "PrintToFile|PrintShowPageSize New Puzzle.pdf" ||
-                print == "Save As PDF Files (*.pdf) (*.pdf) New Puzzle.pdf");
+                print == "Print to PDF PDF Files (*.pdf) (*.pdf) New Puzzle.pdf");
         const QString open = "Open Glyphgrove Files (*.pux) (*.pux) ";
         const QString saveAs = "Save As Glyphgrove Files (*.pux) (*.pux)|All File (*.*) (*) beside it: Pets";
         QCOMPARE(asked, QStringList({open, "Ok|FirstButton OK", open + "beside it: good.pux", saveAs,

@@ -25,8 +25,8 @@ private:
         return ink;
     }
 
-    /// Each visible control: name, place in pixels, text, tooltip, special font, colours, and what a screen reader
-    /// gets.
+    /// Each visible control: name; y and height, x and width in pixels, unless it is as wide as its text; text,
+    /// tooltip, special font, colours, and what a screen reader gets.
     static QStringList Controls(const QWidget& window)
     {
         QStringList controls{window.objectName() + " \"" + window.windowTitle() + "\" on " +
@@ -36,9 +36,11 @@ private:
              window.findChildren<QWidget*>(QRegularExpression("^(lbl|txt|cmd|lst|pct|.*Toolbar)"))) {
             if (control->isHidden())
                 continue;
-            const QPoint corner = control->mapTo(&window, QPoint());
-            QString line = QString("%1 %2,%3 %4x%5 ").arg(control->objectName()).arg(corner.x()).arg(corner.y());
-            line = line.arg(control->width()).arg(control->height()) + control->property("text").toString();
+            const int spare = control->width() - control->sizeHint().width();
+            QString line = QString("%1 %2+%3").arg(control->objectName()).arg(control->y()).arg(control->height());
+            if (spare < 0 || spare > 2)
+                line += QString(" %1+%2").arg(control->x()).arg(control->width());
+            line += ": " + control->property("text").toString();
             line += control->toolTip().isEmpty() ? "" : " (" + control->toolTip() + ')';
             if (const QFont font = control->font(); font != QApplication::font())
                 line += ", " + font.family() + ' ' + QString::number(font.pointSizeF()) +
