@@ -64,6 +64,9 @@ private slots:
     {
         PuzzleWorkspace workspace = MakePuzzle(Words(30, u"ABCDEFGHIJKL"), FixedRandom(2));
         workspace.Reset();
+        for (auto field : {&PuzzleWorkspace::CurrentWord, &PuzzleWorkspace::WordLength, &PuzzleWorkspace::Direction,
+                           &PuzzleWorkspace::CurrentRow, &PuzzleWorkspace::CurrentColumn})
+            QCOMPARE(workspace.*field, 0);
         QVERIFY(workspace.WordsArray == PuzzleWorkspace().WordsArray);
         QVERIFY(workspace.PuzzleArray == PuzzleWorkspace().PuzzleArray);
         const Words words{u"Oak"};
