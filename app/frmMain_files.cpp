@@ -29,7 +29,7 @@ QString frmMain::AskForFile(QFileDialog::AcceptMode mode, const QString& title,
                             const QList<FileDialog::Filter>& filters)
 {
     const QDir folder = DocFileName.isEmpty() ? UsersDocuments() : QFileInfo(DocFileName).absoluteDir();
-    const QString path = FileDialog::Ask({mode, title, filters, folder, RememberedName}, this);
+    QString path = FileDialog::Ask({mode, title, filters, folder, RememberedName}, this);
     if (!path.isEmpty())
         RememberedName = path;
     return path;
