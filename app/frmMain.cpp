@@ -235,7 +235,8 @@ void frmMain::Toolbar1_ButtonClick(int index)
     case 3:
         return ToolbarSave();
     case 4:
-        return static_cast<void>(DeleteSelectedWord());
+        DeleteSelectedWord();
+        break;
     default:
         ShowMessage(this, tr("Button not in use yet"));
     }

@@ -9,8 +9,8 @@
 
 #include <utility>
 
-/// Offers to save unsaved changes. True when the user cancels, or has not answered yet: the session may end several
-/// times while the question is open.
+/// Offers to save unsaved changes. True when the user cancels or is still being asked: the session may end several
+/// times meanwhile. Where that has closed the question, it asks again.
 bool frmMain::CheckForSave()
 {
     if (Saved)

@@ -24,7 +24,7 @@ void frmMain::mnuOpen_Click()
     DocFileName = fileRejected ? QString() : fileName;
 }
 
-/// The path that the user chose, remembered for the next dialog, or nothing.
+/// Asks for a file. Returns its path, which the next dialog shows first, or nothing when the user cancels.
 QString frmMain::AskForFile(QFileDialog::AcceptMode mode, const QString& title,
                             const QList<FileDialog::Filter>& filters)
 {

@@ -75,5 +75,4 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    return 0;
 }

@@ -63,10 +63,10 @@ bool Save(const QString& path, const std::string& bytes)
             file.commit())
             return true;
         const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
-        const bool mayRetry = refused && there.isWritable();
-        if (mayRetry && WriteInPlace(target, contents))
+        const bool mayOverwrite = refused && there.isWritable();
+        if (mayOverwrite && WriteInPlace(target, contents))
             return true;
-        if (!mayRetry || tries == MostTries)
+        if (!mayOverwrite || tries == MostTries)
             return false;
         QThread::msleep(100);
     }

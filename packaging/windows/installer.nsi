@@ -75,7 +75,7 @@ Section
     WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
 SectionEnd
 
-; An example that the user has saved again has another time.
+; Keeps an example that the user has changed: its time differs.
 !macro DeleteExample NAME
     GetFileTime "$INSTDIR\examples\${NAME}" $0 $1
     GetFileTime "${EXAMPLES}\${NAME}" $2 $3
