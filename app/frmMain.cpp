@@ -4,7 +4,8 @@
 #include "app/controls/looks.h"
 #include "app/controls/maker_link.h"
 #include "app/controls/toolbars.h"
-#include "app/desktop/dialogs.h"
+#include "app/desktop/application.h"
+#include "app/desktop/folders.h"
 #include "app/desktop/message_boxes.h"
 #include "app/frmAbout.h"
 #include "app/program.h"
@@ -15,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QSessionManager>
 
 namespace {
 
@@ -33,7 +35,8 @@ constexpr int CounterLeft = 6900;
 
 } // namespace
 
-frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*this)), Workspace(std::move(random))
+frmMain::frmMain(generator::RandomSource random)
+    : Scale(looks::ScaleForFont(*this)), Folder(UsersDocuments()), Workspace(std::move(random))
 {
     InstallAccessibility();
     setObjectName("frmMain");
@@ -48,6 +51,8 @@ frmMain::frmMain(generator::RandomSource random) : Scale(looks::ScaleForFont(*th
     BuildMakerLink();
     FixClient(looks::SizeInPixels(*this, ClientWidth, ClientHeight, Scale));
     setWindowTitle(program::Name + " - " + program::NewPuzzle);
+    connect(qApp, &QGuiApplication::commitDataRequest, this,
+            [this](QSessionManager& session) { AnswerSession(session, [this] { return Form_QueryUnload(); }); });
     txtNewWords->setFocus();
 }
 
@@ -79,10 +84,7 @@ QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& capti
     QAction* action = menu->addAction(caption);
     action->setObjectName(name);
     action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, [this, command] {
-        if (CommandsMayStart())
-            (this->*command)();
-    });
+    connect(action, &QAction::triggered, this, Guarded([=, this](bool /*checked*/) { (this->*command)(); }));
     return action;
 }
 
@@ -120,6 +122,7 @@ void frmMain::BuildWordEntry()
 {
     txtNewWords = new WordBox(Client);
     txtNewWords->setAccessibleName(tr("Word"));
+    connect(txtNewWords, &WordBox::ListInserted, this, &frmMain::EnterList);
     Add(txtNewWords, "txtNewWords", BoxLeft, WordRow, BoxWidth, RowHeight);
     Add(NewLabel(tr("Word:"), txtNewWords), "lblWord", Margin, WordRow, BoxLeft - Margin, RowHeight);
 }
@@ -144,7 +147,7 @@ void frmMain::BuildWordList()
     lstWordlist = new WordList(Client);
     lstWordlist->setAccessibleName(tr("My Word List"));
     Add(lstWordlist, "lstWordlist", Margin, 2835, ClientWidth - 2 * Margin, 2925);
-    connect(lstWordlist, &WordList::Chosen, this, &frmMain::lstWordlist_Click);
+    connect(lstWordlist, &WordList::Chosen, this, Guarded([this](int position) { lstWordlist_Click(position); }));
     QLabel* heading = NewLabel(tr("My Word List"), lstWordlist);
     heading->setFont(looks::BoldItalic(looks::Serif, 14.25));
     heading->setAlignment(Qt::AlignCenter);
@@ -193,7 +196,7 @@ QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (
 {
     auto* button = new QPushButton(caption, Client);
     button->setAutoDefault(true); // Return presses it when it has the focus
-    connect(button, &QPushButton::clicked, this, command);
+    connect(button, &QPushButton::clicked, this, Guarded([=, this](bool /*checked*/) { (this->*command)(); }));
     Add(button, name, x, y, width, height);
     return button;
 }
@@ -208,6 +211,7 @@ void frmMain::Form_Activate()
 
 void frmMain::showEvent(QShowEvent* event)
 {
+    ClientWindow::showEvent(event);
     if (!event->spontaneous()) // not when the desktop restores a minimised window
         Form_Activate();
 }

@@ -24,7 +24,8 @@ public:
     explicit frmMain(generator::RandomSource random = generator::RandomSource());
     ~frmMain() override;
 
-    /// Offers to save unsaved changes before the window closes or the session ends. False when the user cancels.
+    /// Offers to save unsaved changes before the window closes or the session ends. False when the user cancels or is
+    /// in the middle of entering a list of words.
     bool Form_QueryUnload();
 
 protected:
@@ -53,10 +54,12 @@ private:
 
     // Words (frmMain_words.cpp).
     void cmdEnter_Click();
-    void AddWord();
+    bool EnterWord();
+    void EnterList(const QStringList& rest);
+    bool AddWord();
     bool UserWantsDuplicates(const QString& word);
-    void ConfirmEdit();
-    void lstWordlist_Click();
+    bool ConfirmEdit();
+    void lstWordlist_Click(int position);
     void EditWord();
     void cmdDelete_Click();
     bool DeleteSelectedWord();
@@ -117,7 +120,9 @@ private:
     bool InTitleBox = false; ///< the title box has the focus, or had it when the user left the window
     QString DocFileName;     ///< the file that Save writes; empty when there is none
     QString RememberedName;  ///< the name that the file dialogs show first
+    QDir Folder;             ///< where the file dialogs start
     QString SelectedWord;    ///< the entry selected last
+    bool EntersList = false; ///< the words of a list are being entered
     bool EditMode = false;   ///< Enter replaces an entry instead of adding one
     int EditIndex = -1;      ///< that entry's position; -1 when none was selected
     generator::PuzzleWorkspace Workspace;

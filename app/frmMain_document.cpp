@@ -1,9 +1,9 @@
 #include "app/controls/looks.h"
-#include "app/desktop/dialogs.h"
 #include "app/desktop/message_boxes.h"
 #include "app/frmMain.h"
 #include "app/program.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QScopedValueRollback>
 
@@ -15,7 +15,7 @@ bool frmMain::CheckForSave()
 {
     if (Saved)
         return false;
-    if (AsksToSave && !CommandsMayStart())
+    if (AsksToSave && QApplication::activeModalWidget() != nullptr)
         return true;
     const QScopedValueRollback asks(AsksToSave, true);
     switch (ShowMessage(this, tr("Do you want to save the changes you made to your Glyphgrove?"), tr("Important"),
@@ -81,7 +81,7 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 bool frmMain::Form_QueryUnload()
 {
-    return Saved || !CheckForSave();
+    return !EntersList && (Saved || !CheckForSave());
 }
 
 void frmMain::Form_Unload()

@@ -1,5 +1,4 @@
 #include "app/desktop/file_bytes.h"
-#include "app/desktop/folders.h"
 #include "app/desktop/message_boxes.h"
 #include "app/frmMain.h"
 #include "document/puzzle_file.h"
@@ -28,10 +27,11 @@ void frmMain::mnuOpen_Click()
 QString frmMain::AskForFile(QFileDialog::AcceptMode mode, const QString& title,
                             const QList<FileDialog::Filter>& filters)
 {
-    const QDir folder = DocFileName.isEmpty() ? UsersDocuments() : QFileInfo(DocFileName).absoluteDir();
-    QString path = FileDialog::Ask({mode, title, filters, folder, RememberedName}, this);
-    if (!path.isEmpty())
+    QString path = FileDialog::Ask({mode, title, filters, Folder, RememberedName}, this);
+    if (!path.isEmpty()) {
         RememberedName = path;
+        Folder = QFileInfo(path).absoluteDir();
+    }
     return path;
 }
 

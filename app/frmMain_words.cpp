@@ -3,26 +3,48 @@
 #include "wordlist/limits.h"
 #include "wordlist/order.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 
 void frmMain::cmdEnter_Click()
 {
-    if (EditMode)
-        ConfirmEdit();
-    else
-        AddWord();
+    EnterWord();
 }
 
-void frmMain::AddWord()
+/// False when the list is full.
+bool frmMain::EnterWord()
+{
+    return EditMode ? ConfirmEdit() : AddWord();
+}
+
+/// The first word of a list is in the word box. Enters all words but the last, which stays there. While a question
+/// about one of them is open, the window does not close, or the words after it would be lost.
+void frmMain::EnterList(const QStringList& rest)
+{
+    const QScopedValueRollback enters(EntersList, true);
+    for (const QString& next : rest) {
+        if (!txtNewWords->text().isEmpty() && !EnterWord())
+            return;
+        txtNewWords->insert(next);
+    }
+}
+
+bool frmMain::AddWord()
 {
     const QString word = txtNewWords->text();
-    if (word.isEmpty())
-        return FocusWordBox();
-    if (!UserWantsDuplicates(word))
-        return ClearTextbox();
+    if (word.isEmpty()) {
+        FocusWordBox();
+        return true;
+    }
+    if (!UserWantsDuplicates(word)) {
+        ClearTextbox();
+        return true;
+    }
     if (lstWordlist->count() >= wordlist::MaxWords) {
         ShowMessage(this, tr("40 word limit reached!"), tr("Word Limit!"));
-        return ClearTextbox();
+        ClearTextbox();
+        return false;
     }
     const auto position = wordlist::InsertPosition(lstWordlist->Words(), word.toStdU16String());
     lstWordlist->Insert(static_cast<int>(position), word);
@@ -34,6 +56,7 @@ void frmMain::AddWord()
     WordCounter();
     Saved = false;
     ShowEditButtons(false);
+    return true;
 }
 
 /// Asks once for each entry equal to `word`; false as soon as the user says no.
@@ -47,28 +70,29 @@ bool frmMain::UserWantsDuplicates(const QString& word)
 }
 
 /// Replaces the entry at EditIndex, or adds the text as a new word when the list no longer has that entry.
-void frmMain::ConfirmEdit()
+bool frmMain::ConfirmEdit()
 {
     if (txtNewWords->text().isEmpty())
-        return;
+        return true;
     const bool gone = EditIndex < 0 || EditIndex >= lstWordlist->count();
     LeaveEditMode();
     if (gone) {
-        AddWord();
+        const bool room = AddWord();
         if (!wordlist::ObstacleToPuzzle(lstWordlist->Words()))
             cmdCreatePuzzle->setEnabled(true); // whether or not the word was added
-        return;
+        return room;
     }
     lstWordlist->Replace(EditIndex, txtNewWords->text());
     ClearTextbox();
     Saved = false;
     ShowEditButtons(false);
     cmdCreatePuzzle->setEnabled(true);
+    return true;
 }
 
-void frmMain::lstWordlist_Click()
+void frmMain::lstWordlist_Click(int position)
 {
-    SelectedWord = lstWordlist->item(lstWordlist->SelectedPosition())->text();
+    SelectedWord = lstWordlist->item(position)->text();
     ShowEditButtons(true);
     ClearTextbox();
 }

@@ -2,6 +2,7 @@
 
 #include "app/controls/looks.h"
 #include "app/controls/toolbars.h"
+#include "app/desktop/application.h"
 #include "app/program.h"
 
 #include <QCloseEvent>
@@ -29,6 +30,7 @@ frmPuzzle::frmPuzzle(QScreen* screen)
     BuildWordLabels();
     BuildToolbar();
     FixClient(looks::SizeInPixels(*this, 12900, 8295));
+    ScrollWithArrows();
 }
 
 void frmPuzzle::BuildSurface()
@@ -65,11 +67,12 @@ void frmPuzzle::BuildToolbar()
                     [this](int index) { PuzzleToolbar_ButtonClick(index); });
     looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
     toolbar->actions().first()->setShortcuts(QKeySequence::Print);
-    toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) << Qt::Key_Escape);
+    toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) +
+                                            QKeySequence::keyBindings(QKeySequence::Close));
     toolbar->widgetForAction(toolbar->actions().first())->setFocus();
     cmdPrint->setObjectName("cmdPrint");
     cmdPrint->hide();
-    connect(cmdPrint, &QPushButton::clicked, this, &frmPuzzle::cmdPrint_Click);
+    connect(cmdPrint, &QPushButton::clicked, this, Guarded([this](bool /*checked*/) { cmdPrint_Click(); }));
 }
 
 /// There is room for a second line above the words when the title needs one.

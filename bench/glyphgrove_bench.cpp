@@ -71,7 +71,7 @@ BENCHMARK(PrintPuzzle)->Unit(benchmark::kMillisecond);
 int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    driving::PrepareApplication();
+    driving::PrepareDriving();
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

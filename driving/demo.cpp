@@ -21,7 +21,7 @@ int main(int argc, char* argv[])
         std::cerr << "usage: glyphgrove_demo EXAMPLE.pux FOLDER\n";
         return 2;
     }
-    driving::PrepareApplication();
+    driving::PrepareDriving();
     const QApplication application(argc, argv);
     driving::Script person;
     const QDir folder(argv[2]);

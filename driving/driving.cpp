@@ -1,6 +1,6 @@
 #include "driving/driving.h"
 
-#include "app/desktop/folders.h"
+#include "app/desktop/application.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -11,11 +11,11 @@
 
 namespace driving {
 
-void PrepareApplication()
+void PrepareDriving()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QStandardPaths::setTestModeEnabled(true);
-    KeepNoSettings();
+    PrepareApplication();
 }
 
 QWidget* ShownWindow(const QString& name)

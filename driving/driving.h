@@ -15,7 +15,7 @@
 namespace driving {
 
 /// Makes the run independent of the settings file and of native dialogs. Call it before the application exists.
-void PrepareApplication();
+void PrepareDriving();
 
 /// Returns the descendant of `root` with this name. If there is none, lists the existing names and aborts.
 template <class T>

@@ -1,10 +1,46 @@
 #include "driving/script.h"
 
 #include <QClipboard>
-#include <QLineEdit>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMimeData>
 #include <QTest>
 
 namespace driving {
+
+namespace {
+
+void Paste(QLineEdit& box, const QString& text)
+{
+    QApplication::clipboard()->setText(text);
+    box.paste();
+}
+
+void Drop(QLineEdit& box, const QString& text)
+{
+    QMimeData data;
+    data.setText(text);
+    const QPoint place = box.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box, &drop);
+}
+
+void ClickWithMiddleButton(QLineEdit& box, const QString& text)
+{
+    QApplication::clipboard()->setText(text, QClipboard::Selection);
+    QTest::mouseClick(&box, Qt::MiddleButton, {}, box.inputMethodQuery(Qt::ImCursorRectangle).toRect().center());
+}
+
+void Compose(QLineEdit& box, const QString& text)
+{
+    QInputMethodEvent composed;
+    composed.setCommitString(text);
+    QApplication::sendEvent(&box, &composed);
+}
+
+} // namespace
 
 void Script::Start(generator::RandomSource random)
 {
@@ -33,7 +69,8 @@ void Script::Run(const QString& steps)
 void Script::Step(const QString& step)
 {
     const QString name = step.section(':', 0, 0);
-    const QString about = step.section(':', 1).replace('_', ' ');
+    QString about = step.section(':', 1).replace('_', ' ');
+    about.replace("\\n", "\n").replace("\\r", "\r").replace("\\t", "\t");
     for (const Steps& steps : {ActionSteps(about), AnswerSteps(about)})
         if (const auto known = steps.find(name); known != steps.end())
             return known->second();
@@ -51,8 +88,13 @@ Script::Steps Script::ActionSteps(const QString& about)
         {"del", [=] { press("txtNewWords", Qt::Key_Delete); }},
         {"word", [=, this] { Type("txtNewWords", about), press("txtNewWords", Qt::Key_Return); }},
         {"fill", [=, this] { Fill(about.toInt()); }},
-        {"over", [=, this] { Enter(about, false); }},
-        {"paste", [=, this] { Enter(about, true); }},
+        {"over",
+         [=, this] { Enter(about, [](QLineEdit& box, const QString& text) { QTest::keyClicks(&box, text); }); }},
+        {"paste", [=, this] { Enter(about, Paste); }},
+        {"list", [=, this] { Enter("w,99,0," + about, Paste); }},
+        {"drop", [=, this] { Enter(about, Drop); }},
+        {"middle", [=, this] { Enter(about, ClickWithMiddleButton); }},
+        {"compose", [=, this] { Enter(about, Compose); }},
         {"waiting", [=, this] { PressWithoutWaiting(about); }},
         {"title", [=, this] { Type("txtTitle", about); }},
         {"titleenter", [=] { press("txtTitle", Qt::Key_Enter); }},
@@ -120,17 +162,14 @@ void Script::Pick(int position, bool doubleClick)
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
 }
 
-void Script::Enter(const QString& about, bool paste)
+void Script::Enter(const QString& about, const Way& way)
 {
     auto& box = Control<QLineEdit>(about.startsWith('t') ? "txtTitle" : "txtNewWords");
-    const QString text = about.section(',', 3);
     box.setFocus();
     box.end(false);
-    box.setSelection(about.section(',', 1, 1).toInt(), about.section(',', 2, 2).toInt());
-    if (!paste)
-        return QTest::keyClicks(&box, text);
-    QApplication::clipboard()->setText(text);
-    box.paste();
+    const auto start = std::min<qsizetype>(about.section(',', 1, 1).toInt(), box.text().size());
+    box.setSelection(static_cast<int>(start), about.section(',', 2, 2).toInt());
+    way(box, about.section(',', 3));
 }
 
 /// Queues all keys before the program handles the first one, as when it is busy. They reach the window that has the

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "app/desktop/dialogs.h"
+#include "app/desktop/application.h"
 #include "app/frmMain.h"
 #include "driving/driving.h"
 
 #include <QDir>
+#include <QLineEdit>
 
 #include <map>
 #include <memory>
@@ -17,7 +18,9 @@ namespace driving {
 ///     type:TEXT enter wipe home del           word box
 ///     word:TEXT fill:N                        type and enter a word; enter N words
 ///     title:TEXT titleenter clicktitle        title box
-///     over:B,START,LENGTH,TEXT paste:...      replace a selection in box B: t for title, w for word
+///     over:B,START,LENGTH,TEXT                type over a selection in box B: t for title, w for word
+///     paste:... drop:... middle:... compose:...   the same in other ways; "\n", "\r" and "\t" in TEXT
+///     list:TEXT                               paste into the word box, at its end
 ///     waiting:KEY_KEY                         keys that queue up before the first is handled
 ///     pick:N double:N look:KEY edit delete    list: click or double-click entry N, from 0; press a key
 ///     leave tabs key:KEYS                     focus the word box; press Tab from the list; press keys
@@ -58,12 +61,14 @@ private:
     void Type(const char* box, const QString& text);
     void Fill(int words);
     void Pick(int position, bool doubleClick = false);
-    void Enter(const QString& about, bool paste);
+    using Way = std::function<void(QLineEdit&, const QString&)>;
+
+    void Enter(const QString& about, const Way& way);
     void PressWithoutWaiting(const QString& keys);
     void TabRound();
     QWidget* OpenMenu(char key);
 
-    DialogKeeper Dialogs;
+    WindowKeeper Keeper;
 };
 
 } // namespace driving

@@ -1,5 +1,8 @@
 #include "tests/support/window_script.h"
 
+#include "app/desktop/folders.h"
+
+#include <QClipboard>
 #include <QFileDialog>
 #include <QInputMethodEvent>
 #include <QMetaEnum>
@@ -23,7 +26,9 @@ private slots:
     {
         QFETCH(QStringList, lines);
         Run(lines[0]);
-        QCOMPARE("= " + State().Line(), lines[1]);
+        const QWidget* focus = Window->focusWidget();
+        const bool elsewhere = Window->isVisible() && focus->objectName() != "txtNewWords";
+        QCOMPARE("= " + State().Line() + (elsewhere ? ", focus " + focus->objectName() : ""), lines[1]);
         QCOMPARE("? " + Boxes(), lines.value(2, "? "));
     }
 
@@ -33,6 +38,17 @@ private slots:
     {
         Run("word:CAT file:new.pux menu:fe word:DOG file:/dev/full yes menu:fe word:EEL menu:fv");
         QCOMPARE(Files("new*").value("new.pux"), "2.2/New Puzzle/CAT/DOG/EEL/");
+    }
+
+    /// The toolkit's dialog takes quotes for the limits of several names.
+    void TakesQuotesForPartOfAName()
+    {
+        const QString name = "file:The_\"Big\"_Zoo ";
+        Run("word:CAT " + name + "menu:fe word:DOG " + name + "no menu:fe");
+        QCOMPARE(Files("*").value("The \"Big\" Zoo"), "2.2/New Puzzle/CAT/");
+        Run(name + "yes menu:fe " + name + "menu:fo");
+        QCOMPARE(State().Words.size(), 2);
+        QCOMPARE(Boxes(), "file file replace? file replace? file");
     }
 #endif
 
@@ -45,11 +61,13 @@ private slots:
         QStringList asked;
         const auto note = [&](QDialog& dialog) {
             if (const auto* box = qobject_cast<const QMessageBox*>(&dialog))
-                asked += keys(box->standardButtons()) + ' ' + box->defaultButton()->text().remove('&');
+                asked += keys(box->standardButtons()) + ' ' + box->defaultButton()->text().remove('&') +
+                         (box->icon() == QMessageBox::NoIcon ? "" : " with an icon");
             else if (const auto* files = qobject_cast<const QFileDialog*>(&dialog))
                 asked += files->windowTitle() + ' ' + files->nameFilters().join('|') + ' ' +
                          (files->testOption(QFileDialog::HideNameFilterDetails) ? "" : "shown ") +
                          (files->directory() == Folder ? "beside it: " : "") +
+                         (files->directory() == UsersDocuments() ? "documents: " : "") +
                          Find<QLineEdit>(dialog, "fileNameEdit").text();
             else if (const auto* print = qobject_cast<const QPrintDialog*>(&dialog))
                 asked += keys(print->options()) + ' ' + Find<QLineEdit>(dialog, "filename").text().section('/', -1);
@@ -57,18 +75,19 @@ private slots:
         };
         for (const QString steps :
              {"?menu:fo", "?tool:Save", "file:good.pux menu:fo", "?menu:fo", "?menu:fe", "?menu:fo", "menu:fn",
-              "?menu:fo", "word:CAT", "?word:CAT", "?menu:fn", "no create", "?print"}) {
+              "?menu:fo", "clicktitle title:A/B word:CAT", "?word:CAT", "?menu:fn", "no create", "?print"}) {
             if (steps.startsWith('?'))
                 Answering.Expect(note);
             Run(QString(steps).remove('?'));
         }
         const QString print = asked.takeLast(); // not every desktop has a dialog that prints to files
-        QVERIFY(print == "PrintToFile|PrintShowPageSize New Puzzle.pdf" ||
-                print == "Print to PDF PDF Files (*.pdf) (*.pdf) New Puzzle.pdf");
+        QVERIFY(print == "PrintToFile|PrintShowPageSize A-B.pdf" ||
+                print == "Print to PDF PDF Files (*.pdf) (*.pdf) documents: A-B.pdf");
         const QString open = "Open Glyphgrove Files (*.pux) (*.pux) ";
         const QString saveAs = "Save As Glyphgrove Files (*.pux) (*.pux)|All File (*.*) (*) beside it: Pets";
-        QCOMPARE(asked, QStringList({open, "Ok|FirstButton OK", open + "beside it: good.pux", saveAs,
-                                     open + "beside it: Pets", open, "Yes|No Yes", "Yes|No|Cancel Yes"}));
+        QCOMPARE(asked,
+                 QStringList({open + "documents: ", "Ok|FirstButton OK", open + "beside it: good.pux", saveAs,
+                              open + "beside it: Pets", open + "beside it: ", "Yes|No Yes", "Yes|No|Cancel Yes"}));
     }
 
     void ListsInFourColumnsOfTen()
@@ -79,6 +98,10 @@ private slots:
             QCOMPARE(list.visualItemRect(list.item(i)), QRect(i / 10 * 158, i % 10 * 19, 158, 19));
         QCOMPARE(list.viewport()->geometry(), QRect(2, 2, 634, 191));
         QCOMPARE(list.item(3)->toolTip(), "<span>" + list.item(3)->text() + "</span>");
+        list.Replace(3, QString(2000, 'W'));
+        QLabel tip(list.item(3)->toolTip());
+        tip.setWordWrap(true); // as tooltips do with rich text
+        QVERIFY(tip.sizeHint().width() < 1000 && tip.sizeHint().height() < 600);
     }
 
     /// A click or a key without Ctrl chooses an entry, even the selected one. After each key or click: the selected
@@ -90,7 +113,7 @@ private slots:
         int chosen = 0;
         connect(&list, &WordList::Chosen, &list, [&chosen] { ++chosen; });
         const auto state = [&] {
-            return QString::asprintf("%d %d %d", list.SelectedPosition(), list.currentRow(), chosen);
+            return QString::asprintf("%d %d %d", list.SelectedPosition(), list.CurrentPosition(), chosen);
         };
         list.setCurrentRow(0, QItemSelectionModel::Clear);
         const QString rows = "Ctrl+Down -1 1 0, Ctrl+End -1 2 0, End 2 2 1, Ctrl+Up 2 1 1, Down 2 2 2, Home 0 0 3, "
@@ -137,6 +160,29 @@ private slots:
         QCOMPARE(Boxes(), "save?");
     }
 
+    /// The word box takes no Ctrl+V.
+    void PastesFromAMenu()
+    {
+        auto& word = Control<QLineEdit>("txtNewWords");
+        QApplication::clipboard()->setText("cat\ndog");
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(5, 5), word.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&word, &menu);
+        for (QAction* action : QApplication::activePopupWidget()->actions())
+            if (action->text() == "&Paste")
+                action->trigger();
+        QApplication::activePopupWidget()->close();
+        QCOMPARE(State().Line(), "G - NP | NP | cat | AC | 1 ?0 | dog");
+    }
+
+    /// What the middle button pastes, where the desktop has that.
+    void PastesTheSelection()
+    {
+        if (!QApplication::clipboard()->supportsSelection())
+            QSKIP("this desktop pastes with the clipboard only");
+        Run("type:ant middle:w,3,0,s\\ndog");
+        QCOMPARE(State().Line(), "G - NP | NP | ants | AC | 1 ?0 | dog");
+    }
+
     /// Text that the user types, composes or pastes, and what undo restores.
     void FiltersWhatIsEntered()
     {
@@ -155,6 +201,10 @@ private slots:
         QTest::keyClick(&word, Qt::Key_V, Qt::ControlModifier); // not a letter
         Run("paste:w,99,0,_pig");
         QCOMPARE(word.text(), "abc dxf pig");
+        QCOMPARE(after("12", -3, 3), "abc dxf pig"); // nothing to take: keeps what it would replace
+        QTest::keyClicks(&word, "abcdefghijk");
+        QCOMPARE(word.text(), "abc dxf pigabcdefghi");
+        word.undo();
         word.undo(); // undoes the paste only
         QCOMPARE(word.text(), "abc dxf");
         Run("over:w,4,3,1-");

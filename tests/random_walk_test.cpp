@@ -21,6 +21,7 @@ private slots:
                 "enter enter titleenter wipe over:t,99,0,x_y paste:t,99,0,_Title clicktitle leave edit edit delete "
                 "over:w,0,2,1x2 over:w,0,9,_1y paste:w,0,3,_t paste:w,1,1,1-2 paste:w,0,0,abcdefghijklmnopqrstuv "
                 "over:t,0,1,Q paste:t,0,20,R_S look:Down look:Up look:Home look:End look:c look:z look:Space "
+                "list:cat,dog list:owl,cat,ape,dog "
                 "look:Ctrl+Down look:Ctrl+Up look:Ctrl+Home look:Ctrl+End look:Ctrl+Space double "
                 "waiting:Ctrl+N_d_o_g_Return waiting:F1_Ctrl+O_x waiting:Ctrl+Shift+S_Ctrl+N_y "
                 "waiting:Ctrl+S_d_Return_Ctrl+O_e waiting:c_a_t_Return_Ctrl+Q_x "

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace wordlist {
 
@@ -11,6 +12,11 @@ struct TextRule {
     bool (*takes)(char16_t character, bool boxIsEmpty);
     std::size_t limit; ///< characters; a longer text that the program sets is kept
 };
+
+/// Splits a list of words at line ends, tabs, commas and semicolons. Each word has only the characters that the word
+/// box takes, and no spaces around it. Empty words are left out, but the first stays: it joins what is in the box.
+/// Returns a text that is no list as it stands.
+std::vector<std::u16string> WordsOfList(std::u16string_view text);
 
 /// The rule of the word box: A to Z, a to z and spaces, but no space at the start.
 bool TakesInWord(char16_t character, bool boxIsEmpty);

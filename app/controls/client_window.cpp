@@ -2,29 +2,32 @@
 
 #include "app/controls/focus_ring.h"
 #include "app/controls/looks.h"
-#include "app/desktop/dialogs.h"
 
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
+#include <QStyle>
 #include <QToolButton>
+#include <QWindow>
 
-ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget)
+namespace {
+
+constexpr QMargins UsualFrame(2, 32, 2, 2); ///< about what window managers add, in pixels
+
+} // namespace
+
+ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget), Area(new QScrollArea)
 {
     setScreen(screen);
     setPalette(looks::LightYellow());
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setAlignment(Qt::AlignCenter);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(Client);
+    Area->setFrameShape(QFrame::NoFrame);
+    Area->setAlignment(Qt::AlignCenter);
+    Area->setFocusPolicy(Qt::NoFocus);
+    Area->setWidget(Client);
     Client->setObjectName("client");
-    setCentralWidget(area);
-    // While the user drags a window, some window managers ignore requests for another size.
-    Settled.setSingleShot(true);
-    Settled.setInterval(200);
-    connect(&Settled, &QTimer::timeout, this, &ClientWindow::FitToScreen);
+    setCentralWidget(Area);
 }
 
 void ClientWindow::FixClient(QSize size)
@@ -33,50 +36,65 @@ void ClientWindow::FixClient(QSize size)
     looks::OutlineControls(*this);
     new FocusRing(Client);
     FitToScreen();
-    Centre();
+    QRect place({}, Fitting.grownBy(UsualFrame));
+    place.moveCenter(screen()->availableGeometry().center());
+    move(place.topLeft()); // not setGeometry(): some window managers would show a hidden window in another place
 }
 
-bool ClientWindow::MayGrow() const
+void ClientWindow::ScrollWithArrows()
 {
-    return windowFlags().testFlag(Qt::WindowMaximizeButtonHint) || AnyWindowMayGrow();
+    for (const auto& [key, bar, action] :
+         {std::tuple(Qt::Key_Left, Area->horizontalScrollBar(), QScrollBar::SliderSingleStepSub),
+          {Qt::Key_Right, Area->horizontalScrollBar(), QScrollBar::SliderSingleStepAdd},
+          {Qt::Key_Up, Area->verticalScrollBar(), QScrollBar::SliderSingleStepSub},
+          {Qt::Key_Down, Area->verticalScrollBar(), QScrollBar::SliderSingleStepAdd}})
+        connect(new QShortcut(key, this), &QShortcut::activated, bar, [=] { bar->triggerAction(action); });
 }
 
+/// Gives the window as much of the screen as it needs, unless the user or the window manager has chosen another size
+/// that fits.
 void ClientWindow::FitToScreen()
 {
-    const QSize room = screen()->availableSize() - (frameGeometry().size() - geometry().size());
-    const int bar = static_cast<QScrollArea*>(centralWidget())->verticalScrollBar()->sizeHint().width();
+    connect(screen(), &QScreen::availableGeometryChanged, this, &ClientWindow::ReturnToScreen, Qt::UniqueConnection);
+    const QSize room = screen()->availableSize().shrunkBy(UsualFrame);
     const int menu = menuWidget() != nullptr ? menuWidget()->heightForWidth(Client->width()) : 0;
-    const QSize whole = Client->size() + QSize(0, menu);
-    const QSize bars(whole.height() > room.height() ? bar : 0, whole.width() > room.width() ? bar : 0);
-    NormalSize = (whole + bars).boundedTo(room);
-    setMinimumSize(NormalSize);
-    if (!MayGrow())
-        setMaximumSize(NormalSize);
-    else if (isVisible()) { // or the toolkit does not tell X11's window managers
-        setBaseSize(NormalSize);
-        setSizeIncrement(10'000, 10'000); // the user can drag the border in such steps only: not at all
+    QSize whole = Client->size() + QSize(0, menu);
+    if (whole != whole.boundedTo(room)) {
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        whole += QSize(bar, bar);
     }
-    if (!isMaximized() && !isFullScreen())
-        resize(NormalSize);
+    const bool chosen = Fitting.isValid() && size() != Fitting && size() == size().boundedTo(room);
+    Fitting = whole.boundedTo(room);
+    if (chosen || isMaximized() || isFullScreen())
+        return;
+    FixSize();
+    resize(Fitting);
 }
 
-void ClientWindow::Centre()
+/// Tiling window managers let a window of fixed size float.
+void ClientWindow::FixSize()
 {
-    QRect place(QPoint(), frameGeometry().size());
-    place.moveCenter(screen()->availableGeometry().center());
-    move(place.topLeft());
+    if (!windowFlags().testFlag(Qt::WindowMaximizeButtonHint))
+        setFixedSize(Fitting);
 }
 
-bool ClientWindow::event(QEvent* event)
+/// The screen may now be smaller than the place of the window.
+void ClientWindow::ReturnToScreen()
 {
-    if (!FrameKnown && isVisible() && frameGeometry() != geometry()) {
-        FrameKnown = true;
-        FitToScreen();
-        Centre();
-    }
-    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-        Settled.start(); // then back to the fixed size, or to what another screen has room for
-    return QMainWindow::event(event);
+    FitToScreen();
+    const QRect room = screen()->availableGeometry().marginsRemoved(UsualFrame);
+    const QPoint corner = geometry().topLeft();
+    const QPoint last = room.bottomRight() - QPoint(width() - 1, height() - 1);
+    const QPoint place(std::max(std::min(corner.x(), last.x()), room.x()),
+                       std::max(std::min(corner.y(), last.y()), room.y()));
+    if (place != corner && !isMaximized() && !isFullScreen())
+        setGeometry({place, size()});
+}
+
+void ClientWindow::showEvent(QShowEvent* /*event*/)
+{
+    connect(windowHandle(), &QWindow::screenChanged, this, &ClientWindow::FitToScreen, Qt::UniqueConnection);
+    FixSize(); // under Wayland it was free to grow
 }
 
 /// Return presses a toolbar button, as it does other buttons.

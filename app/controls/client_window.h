@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QTimer>
 
-/// A window around a client area of fixed size, centred on the screen when first shown. On a smaller screen the
-/// client area scrolls; in a larger window, such as a maximised one, it stays in the middle.
+class QScrollArea;
+
+/// A window around a client area of fixed size, centred on the screen when first shown. In a larger window the client
+/// area stays in the middle; in a smaller one it scrolls. Once shown, the window keeps the size and place that user
+/// and window manager give it, unless its screen changes.
 class ClientWindow : public QMainWindow {
     Q_OBJECT
 
@@ -14,18 +16,19 @@ protected:
 
     /// Sets the size of the client area, in pixels. Call it when all controls are in place.
     void FixClient(QSize size);
+    /// Lets the arrow keys scroll the client area, for a window whose controls do not need them.
+    void ScrollWithArrows();
 
-    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
     QWidget* Client; ///< the parent of the window's controls
 
 private:
     void FitToScreen();
-    void Centre();
-    bool MayGrow() const;
+    void FixSize();
+    void ReturnToScreen();
 
-    QTimer Settled;          ///< fires when the window has not moved for a moment
-    QSize NormalSize;        ///< of the window without its frame
-    bool FrameKnown = false; ///< the window manager has added its frame
+    QScrollArea* Area;
+    QSize Fitting; ///< of the window without its frame: as large as client area and screen allow
 };

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include <algorithm>
@@ -38,6 +39,16 @@ double ScaleForFont(const QWidget& widget)
 void SetCaption(QWidget& window, QString text)
 {
     window.setWindowTitle(text.replace("[*]", "[*][*]"));
+}
+
+QString ToolTip(QString text)
+{
+    constexpr int Longest = 600;
+    static const QRegularExpression longWord("(\\S{40})");
+    if (text.size() > Longest)
+        text = text.left(Longest) + u'…';
+    // The tags force rich text, which breaks lines, but only at spaces, and at those of no width.
+    return QString("<span>%1</span>").arg(text.replace(longWord, "\\1\u200B").toHtmlEscaped());
 }
 
 QFont Font(const QString& name, double points)

@@ -27,6 +27,9 @@ double ScaleForFont(const QWidget& widget);
 /// Sets the caption of `window`, unchanged even where it holds "[*]", a placeholder to the toolkit.
 void SetCaption(QWidget& window, QString text);
 
+/// A tooltip that shows `text` as it stands, in lines of a width that suits a screen; of an endless text, the start.
+QString ToolTip(QString text);
+
 QFont Font(const QString& name, double points);
 QFont BoldItalic(const QString& name, double points);
 

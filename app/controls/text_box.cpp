@@ -10,6 +10,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <utility>
 
 /// Every way of entering text passes the line edit's validator, so the rule is applied here.
 class TextValidator : public QValidator {
@@ -24,13 +25,16 @@ public:
                                                static_cast<std::size_t>(Replaced), Rule));
     }
 
-    /// Notes the text, and what an insertion would replace: `replaced` characters from `start` on.
-    void Remember(qsizetype start, qsizetype replaced)
+    /// Notes the text, and what an insertion would replace.
+    void Remember()
     {
         Before = Box.text();
-        Start = std::clamp<qsizetype>(start, 0, Before.size());
-        Replaced = std::min(replaced, Before.size() - Start);
+        Start = Box.hasSelectedText() ? Box.selectionStart() : Box.cursorPosition();
+        Replaced = Box.selectionLength();
     }
+
+    bool TakesLists = false;
+    mutable QStringList Rest; ///< of the list last inserted
 
 private:
     TextBox& Box;
@@ -49,8 +53,14 @@ QValidator::State TextValidator::validate(QString& text, int& cursor) const
     if (!edited || length <= 0 || !text.startsWith(Before.left(Start)) ||
         !text.endsWith(Before.mid(Start + Replaced)))
         return Acceptable;
-    const QString admitted = Admitted(text.mid(Start, length));
-    if (admitted.isEmpty())
+    QString entered = text.mid(Start, length);
+    if (TakesLists) {
+        for (const std::u16string& word : wordlist::WordsOfList(entered.toStdU16String()))
+            Rest += QString::fromStdU16String(word);
+        entered = Rest.takeFirst();
+    }
+    const QString admitted = Admitted(entered);
+    if (admitted.isEmpty() && Rest.isEmpty())
         return Invalid;
     text.replace(Start, length, admitted);
     cursor = static_cast<int>(Start + admitted.size());
@@ -62,9 +72,7 @@ TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
 {
     setMaxLength(static_cast<int>(document::MaxFileBytes)); // room for any file's title; the rule limits the user
     setValidator(Validator);
-    const auto remember = [this] {
-        Validator->Remember(hasSelectedText() ? selectionStart() : cursorPosition(), selectionLength());
-    };
+    const auto remember = [this] { Validator->Remember(); };
     connect(this, &QLineEdit::textChanged, this, remember);
     connect(this, &QLineEdit::selectionChanged, this, remember);
     connect(this, &QLineEdit::cursorPositionChanged, this, remember);
@@ -78,16 +86,23 @@ void TextBox::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
-/// Composed text is filtered before the line edit sees it, which reports the new cursor before it asks the validator.
+/// Inserts composed text like pasted text: committing it, the line edit would report the new cursor before it asks
+/// the validator.
 void TextBox::inputMethodEvent(QInputMethodEvent* event)
 {
-    if (event->replacementLength() > 0)
-        Validator->Remember(cursorPosition() + event->replacementStart(), event->replacementLength());
-    QInputMethodEvent admitted(event->preeditString(), event->attributes());
-    const QString text = Validator->Admitted(event->commitString());
-    if (!text.isEmpty() || event->commitString().isEmpty())
-        admitted.setCommitString(text, event->replacementStart(), event->replacementLength());
-    QLineEdit::inputMethodEvent(&admitted);
+    if (!event->commitString().isEmpty() || event->replacementLength() > 0) {
+        QInputMethodEvent end;
+        QLineEdit::inputMethodEvent(&end);
+        const QString before = text();
+        const int cursor = cursorPosition();
+        if (event->replacementLength() > 0)
+            setSelection(std::max(cursor + event->replacementStart(), 0), event->replacementLength());
+        insert(event->commitString());
+        if (event->replacementLength() > 0 && text() == before)
+            setCursorPosition(cursor);
+    }
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QLineEdit::inputMethodEvent(&composing);
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event)
@@ -104,7 +119,14 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event)
     QLineEdit::contextMenuEvent(event);
 }
 
-WordBox::WordBox(QWidget* parent) : TextBox({wordlist::TakesInWord, wordlist::MaxWordLength}, parent) {}
+WordBox::WordBox(QWidget* parent) : TextBox({wordlist::TakesInWord, wordlist::MaxWordLength}, parent)
+{
+    Validator->TakesLists = true;
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (const QStringList rest = std::exchange(Validator->Rest, {}); !rest.isEmpty())
+            emit ListInserted(rest);
+    });
+}
 
 void WordBox::keyPressEvent(QKeyEvent* event)
 {

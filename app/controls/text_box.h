@@ -7,8 +7,9 @@
 class TextValidator;
 
 /// A text box that takes from the user only what its rule admits, whether typed, composed, pasted or dropped.
-/// Discarded text changes nothing, neither selection nor undo. After a paste that loses a part there is nothing to
-/// undo. The rule applies neither to texts that the program sets nor to undo.
+/// Discarded text changes nothing, neither selection nor undo; but a composition deletes the selection when it
+/// begins. After a paste that loses a part there is nothing to undo. The rule applies neither to texts that the
+/// program sets nor to undo.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -24,7 +25,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
-private:
     TextValidator* Validator;
 };
 
@@ -35,6 +35,10 @@ class WordBox : public TextBox {
 
 public:
     explicit WordBox(QWidget* parent);
+
+signals:
+    /// The user pasted, dropped or composed a list. Its first word is in the box, `rest` are those after it.
+    void ListInserted(const QStringList& rest);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,5 +1,7 @@
 #include "app/controls/title_label.h"
 
+#include "app/controls/looks.h"
+
 #include <QPainter>
 
 namespace {
@@ -29,6 +31,6 @@ void TitleLabel::paintEvent(QPaintEvent* /*event*/)
     }
     while (!shown.isEmpty() && !Fits(painter, rect(), shown, lines))
         shown = shown.chopped(shown.endsWith(u'…') ? 2 : 1) + u'…';
-    setToolTip(shown == text() ? QString() : QString("<span>%1</span>").arg(text().toHtmlEscaped()));
+    setToolTip(shown == text() ? QString() : looks::ToolTip(text()));
     painter.drawText(rect(), shown, lines);
 }

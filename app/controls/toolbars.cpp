@@ -1,7 +1,7 @@
 #include "app/controls/toolbars.h"
 
 #include "app/controls/icons.h"
-#include "app/desktop/dialogs.h"
+#include "app/desktop/application.h"
 
 #include <QLayout>
 
@@ -19,11 +19,8 @@ QToolBar* MakeToolbar(const char* name, const QString& accessibleName, const std
         QAction* action = toolbar->addAction(icons::ForToolbar(key.toLower()), button.tooltip);
         action->setObjectName(key);
         toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // in the tab order
-        QObject::connect(action, &QAction::triggered, toolbar,
-                         [clicked, index = static_cast<int>(toolbar->actions().size())] {
-                             if (CommandsMayStart())
-                                 clicked(index);
-                         });
+        const auto index = static_cast<int>(toolbar->actions().size());
+        QObject::connect(action, &QAction::triggered, toolbar, Guarded([=](bool /*checked*/) { clicked(index); }));
     }
     return toolbar;
 }

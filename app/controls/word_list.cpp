@@ -1,5 +1,7 @@
 #include "app/controls/word_list.h"
 
+#include "app/controls/looks.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -33,26 +35,38 @@ std::vector<std::u16string> WordList::Words() const
 void WordList::Insert(int position, const QString& word)
 {
     auto* entry = new QListWidgetItem(word);
-    // The column may cut the word. The tags force rich text, so that the escaped word shows unchanged.
-    entry->setToolTip(QString("<span>%1</span>").arg(word.toHtmlEscaped()));
+    entry->setToolTip(looks::ToolTip(word)); // the column may cut the word
     entry->setSizeHint(gridSize());
     insertItem(position, entry);
     if (count() == 1)
-        setCurrentRow(0, QItemSelectionModel::NoUpdate); // where keys start from
+        Current = model()->index(0, 0);
+}
+
+void WordList::Remove(int position)
+{
+    const int current = Current.row();
+    delete takeItem(position);
+    if (current == position)
+        Current = model()->index(std::min(position, count() - 1), 0);
 }
 
 void WordList::Replace(int position, const QString& word)
 {
-    const int current = currentRow();
+    const int current = CurrentPosition();
     Remove(position);
     Insert(position, word);
-    setCurrentRow(current, QItemSelectionModel::NoUpdate);
+    Current = model()->index(current, 0);
 }
 
 int WordList::SelectedPosition() const
 {
     const auto selected = selectionModel()->selectedIndexes();
     return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+int WordList::CurrentPosition() const
+{
+    return currentRow() < 0 ? Current.row() : currentRow();
 }
 
 /// Only a file holds more words than the columns. A bar shown "as needed" would reserve its room all the time.
@@ -69,6 +83,21 @@ void WordList::resizeEvent(QResizeEvent* event)
     setGridSize(QSize(viewport()->width() / Columns, (viewport()->height() - 1) / Rows));
     for (int i = 0; i < count(); ++i)
         item(i)->setSizeHint(gridSize()); // or it moves to the top of its cell
+}
+
+void WordList::focusInEvent(QFocusEvent* event)
+{
+    setCurrentRow(CurrentPosition(), QItemSelectionModel::NoUpdate);
+    QListWidget::focusInEvent(event);
+}
+
+/// To screen readers the toolkit's current entry has the focus, so there is none without it.
+void WordList::focusOutEvent(QFocusEvent* event)
+{
+    if (currentRow() >= 0)
+        Current = currentIndex();
+    setCurrentRow(-1, QItemSelectionModel::NoUpdate);
+    QListWidget::focusOutEvent(event);
 }
 
 void WordList::mousePressEvent(QMouseEvent* event)
@@ -90,7 +119,7 @@ void WordList::keyPressEvent(QKeyEvent* event)
 /// A letter chooses the next entry that begins with it.
 void WordList::keyboardSearch(const QString& search)
 {
-    const QModelIndex next = model()->index((currentRow() + 1) % std::max(count(), 1), 0);
+    const QModelIndex next = model()->index((CurrentPosition() + 1) % std::max(count(), 1), 0);
     const auto found = model()->match(next, Qt::DisplayRole, search, 1, Qt::MatchStartsWith | Qt::MatchWrap);
     Choose(found.isEmpty() ? -1 : found.first().row());
 }
@@ -107,7 +136,8 @@ void WordList::Choose(int position)
     const bool again = position == SelectedPosition();
     if (position < 0)
         return;
-    setCurrentRow(position, QItemSelectionModel::ClearAndSelect);
+    setCurrentRow(position, QItemSelectionModel::NoUpdate); // first, for choosing moves the focus
+    selectionModel()->select(model()->index(position, 0), QItemSelectionModel::ClearAndSelect);
     if (again)
         emit Chosen(position);
 }

@@ -8,7 +8,7 @@
 /// The list of words in four columns of ten, filled from top to bottom, the left column first. It is the only store
 /// of the document's words. Positions count from 0.
 ///
-/// The user looks at the current entry; the selected entry is the one chosen last. A click chooses an entry. A key
+/// The selected entry is the one chosen last; keys start from the current entry. A click chooses an entry. A key
 /// moves the current entry and, without Ctrl, chooses it, even when it is the selected one. The space bar chooses in
 /// place.
 class WordList : public QListWidget {
@@ -20,10 +20,11 @@ public:
     std::vector<std::u16string> Words() const;
     void Insert(int position, const QString& word);
     /// Removes an entry. If it was selected, no other entry becomes selected.
-    void Remove(int position) { delete takeItem(position); }
+    void Remove(int position);
     /// Replaces an entry with `word`. It stays current, but is no longer selected.
     void Replace(int position, const QString& word);
     int SelectedPosition() const; ///< -1 when nothing is selected
+    int CurrentPosition() const;  ///< -1 when the list is empty
 
 signals:
     /// The user chose the entry at `position`, perhaps once more.
@@ -32,6 +33,8 @@ signals:
 protected:
     void updateGeometries() override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseMoveEvent(QMouseEvent* /*event*/) override {} // dragging chooses nothing
@@ -46,4 +49,6 @@ protected:
 
 private:
     void Choose(int position);
+
+    QPersistentModelIndex Current; ///< kept here while the list is without the focus
 };

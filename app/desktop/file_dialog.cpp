@@ -6,6 +6,7 @@
 #endif
 
 #include <QApplication>
+#include <QLineEdit>
 
 namespace {
 
@@ -35,15 +36,27 @@ QString FileDialog::Ask(const Question& question, QWidget* owner)
     dialog.setDefaultSuffix(question.suffix);
     dialog.setDirectory(question.folder);
     dialog.selectFile(question.name);
-    const QString path = dialog.exec() == Accepted ? dialog.selectedFiles().value(0) : QString();
+    const QString path = dialog.exec() == Accepted ? dialog.Path() : QString();
     return FolderExists(path) ? path : QString();
+}
+
+/// The toolkit takes a text with quotes for a list of names.
+QString FileDialog::Path() const
+{
+    const auto* box = findChild<QLineEdit*>("fileNameEdit");
+    const bool quotes = box != nullptr && box->text().contains('"');
+    return quotes ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
 }
 
 void FileDialog::accept()
 {
-    const QString path = selectedFiles().value(0);
+    const QString path = Path();
     if (!FolderExists(path))
         ShowMessage(this, tr("There is no such folder:\n%1").arg(QFileInfo(path).path()));
-    else
+    else if (!path.contains('"') || QFileInfo(path).isDir())
         QFileDialog::accept();
+    else if (acceptMode() == AcceptOpen || !QFileInfo::exists(path) ||
+             ShowMessage(this, tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName()),
+                         windowTitle(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
+        QDialog::accept();
 }

@@ -28,9 +28,11 @@ public:
     static QString Ask(const Question& question, QWidget* owner);
 
 protected:
-    /// A typed path may name a file that does not exist, but its folder must exist.
+    /// A typed path may name a file that does not exist, but its folder must exist. Quotes are part of a name.
     void accept() override;
 
 private:
     using QFileDialog::QFileDialog;
+
+    QString Path() const;
 };

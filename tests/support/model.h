@@ -186,6 +186,16 @@ struct Model : Seen {
                 box.replace(at++, std::exchange(selected, 0), c);
         }
     }
+    void PasteList(const QStringList& words)
+    {
+        for (const QString& word : words) {
+            TypeOver("w,99,0," + word);
+            if (&word != &words.last())
+                Enter();
+            if (!Boxes.isEmpty() && Boxes.last() == "limit")
+                return;
+        }
+    }
     /// A key in the list moves the current entry, and chooses it if Ctrl is up.
     void PressInList(const QString& key)
     {
@@ -240,6 +250,7 @@ struct Model : Seen {
             {"wipe", {!InTitle, [&] { Word.clear(); }}},
             {"over", {true, [&] { TypeOver(about); }}},
             {"look", {true, [&] { PressInList(about); }}},
+            {"list", {true, [&] { PasteList(about.split(',')); }}},
             {"waiting", {!InTitle, [&] { LeaveTitle(), PressWaiting(about.split(' ')); }}},
             {"clicktitle", {true, [&] { ClickTitle(); }}},
             {"leave", {true, [&] { LeaveTitle(); }}},

@@ -77,7 +77,7 @@ protected:
         for (const auto& word : list.Words())
             seen.Words += QString::fromStdU16String(word);
         seen.Selected = list.SelectedPosition();
-        seen.LookedAt = list.currentRow();
+        seen.LookedAt = list.CurrentPosition();
         seen.Word = Control<QLineEdit>("txtNewWords").text();
         seen.Save = Control<QAction>("mnuSave").isEnabled();
         seen.SaveAs = Control<QAction>("mnuSaveAs").isEnabled();
@@ -123,7 +123,7 @@ protected:
 private slots:
     void initTestCase()
     {
-        PrepareApplication();
+        PrepareDriving();
         QApplication::setStyle("Fusion"); // the same layout on every desktop
         QFont::insertSubstitution("Times New Roman", "Liberation Serif");
         QFont::insertSubstitution("Courier New", "Liberation Mono");
@@ -134,6 +134,8 @@ private slots:
     {
         Disk = std::make_unique<QTemporaryDir>();
         Folder = QDir(Disk->path());
+        Folder.mkdir("home");
+        qputenv("HOME", Folder.filePath("home").toLocal8Bit());
         const QString many = QString("/WORD").repeated(40);
         for (const QString& text :
              {QString("good/2.2/Pets/DOG/CAT"), QString("older/Glyphgrove2.1/Old/DOG"), QString("bad/Glyph/Pets/DOG"),
@@ -152,5 +154,7 @@ private slots:
     {
         Window.reset();
         QVERIFY2(Answering.Done(), "an expected dialog did not come");
+        const QStringList left = QDir(Folder.filePath("home")).entryList(QDir::Files | QDir::Hidden);
+        QVERIFY2(left.isEmpty(), qPrintable("left behind: " + left.join(' ')));
     }
 };
