@@ -1,16 +1,9 @@
 #include "app/controls/icons.h"
 
-/// A program links the resources of a library only if it asks for them. The macro must be outside any namespace.
-static void KeepResources()
-{
-    Q_INIT_RESOURCE(glyphgrove);
-}
-
 namespace icons {
 
 QIcon ForToolbar(const QString& name)
 {
-    KeepResources();
     QIcon icon;
     // Pixmaps are cached by name, so all icons share them, and no icon engine plug-in is searched for.
     for (const char* density : {"", "@2x", "@3x"})
