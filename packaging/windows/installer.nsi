@@ -1,6 +1,6 @@
 ; The installer: for the user who runs it, without an administrator's rights. It is given VERSION, FILES (the folder
-; to install), REMOVE (the uninstaller's list of it), SIZE in KiB and OUTPUT. Installer and uninstaller end with exit
-; code 2, and change nothing, while the program is running and the user does not close it.
+; to install), REMOVE (the uninstaller's list of it), ICON and OUTPUT. Installer and uninstaller end with exit code 2,
+; and change nothing, while the program is running and the user does not close it.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -53,7 +53,7 @@ VIAddVersionKey LegalCopyright "MIT licence"
     closed:
 !macroend
 
-Section
+Section "" Program
     !insertmacro AskToClose
     SetOutPath "${EXAMPLES}" ; where the program's Open looks first
     SetOverwrite off
@@ -70,7 +70,8 @@ Section
     WriteRegStr HKCU "${ENTRY}" InstallLocation "$INSTDIR"
     WriteRegStr HKCU "${ENTRY}" UninstallString '"$INSTDIR\uninstall.exe"'
     WriteRegStr HKCU "${ENTRY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
-    WriteRegDWORD HKCU "${ENTRY}" EstimatedSize ${SIZE}
+    SectionGetSize ${Program} $0
+    WriteRegDWORD HKCU "${ENTRY}" EstimatedSize $0
     WriteRegDWORD HKCU "${ENTRY}" NoModify 1
     WriteRegDWORD HKCU "${ENTRY}" NoRepair 1
 SectionEnd
