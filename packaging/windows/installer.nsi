@@ -1,8 +1,10 @@
 ; The installer: for the user who runs it, without an administrator's rights. It is given VERSION, FILES (the folder
-; to install), REMOVE (the uninstaller's list of it), ICON and OUTPUT. Installer and uninstaller end with exit code 2,
-; and change nothing, while the program is running and the user does not close it.
+; to install), REMOVE (the uninstaller's list of it), ICON and OUTPUT. While the program is running and the user does
+; not close it, installer and uninstaller change nothing and end with exit code 2. The uninstaller works from a copy of
+; itself, so only a caller that adds _?=FOLDER gets this code.
 Unicode true
 Target amd64-unicode
+AllowSkipFiles off
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 ManifestDPIAware true
@@ -36,25 +38,29 @@ VIAddVersionKey LegalCopyright "MIT licence"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
 
-; Windows locks the file of a running program.
-!macro AskToClose
-    again:
-    IfFileExists "$INSTDIR\glyphgrove.exe" 0 closed
-    ClearErrors
-    FileOpen $0 "$INSTDIR\glyphgrove.exe" a
-    IfErrors running
-    FileClose $0
-    Goto closed
-    running:
-    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Glyphgrove is running. Please close it, then choose Retry." \
-        /SD IDCANCEL IDRETRY again
-    SetErrorLevel 2
-    Quit
-    closed:
-!macroend
+!define IN_USE "Glyphgrove is running, or another program is using its files. Please close it, then choose Retry."
 
+; There is one installation. An earlier one is uninstalled first, wherever it is: files that a new version drops go,
+; examples that the user has changed stay.
 Section "" Program
-    !insertmacro AskToClose
+    ClearErrors
+    CreateDirectory "$INSTDIR"
+    IfErrors 0 remove
+    Abort "Cannot create the folder $INSTDIR."
+    remove:
+    ReadRegStr $0 HKCU "${ENTRY}" InstallLocation
+    ReadRegStr $1 HKCU "${ENTRY}" QuietUninstallString
+    StrCmp $0 "" removed
+    SetFileAttributes "$0\glyphgrove.exe" NORMAL ; early uninstallers take read-only for running
+    StrCpy $2 0 ; stays if there is no uninstaller
+    ExecWait "$1 _?=$0" $2
+    IntCmp $2 0 +4
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${IN_USE}" /SD IDCANCEL IDRETRY remove
+    RMDir "$INSTDIR"
+    Abort
+    Delete "$0\uninstall.exe" ; with _?= it cannot delete itself
+    RMDir "$0"
+    removed:
     SetOutPath "${EXAMPLES}" ; where the program's Open looks first
     SetOverwrite off
     File "${FILES}/examples/*"
@@ -87,8 +93,11 @@ SectionEnd
 ; What was installed and nothing else: the user may keep files of his own there, and other programs may be listed. What
 ; is needed to try again goes last.
 Section Uninstall
-    !insertmacro AskToClose
-    !include "${REMOVE}" ; goes to "left" if a file cannot be deleted
+    again:
+    ClearErrors
+    Delete "$INSTDIR\glyphgrove.exe" ; first: Windows keeps the file of a running program
+    IfErrors used
+    !include "${REMOVE}" ; goes to "used" if a file cannot be deleted
     RMDir "${EXAMPLES}"
     Delete "$SMPROGRAMS\Glyphgrove.lnk"
     Delete "$INSTDIR\uninstall.exe"
@@ -97,6 +106,7 @@ Section Uninstall
     DeleteRegKey HKCU "${ENTRY}"
     DeleteRegKey /ifempty HKCU "${ENTRIES}"
     Return
-    left:
-    Abort "Another program is using some of the files. Please try again."
+    used:
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${IN_USE}" /SD IDCANCEL IDRETRY again
+    Abort
 SectionEnd
