@@ -27,24 +27,23 @@ void CloseMenus()
 
 bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::Show:
-        if (qobject_cast<QDialog*>(object) != nullptr)
-            CloseMenus();
-        return false;
-    case QEvent::ShowToParent:
-    case QEvent::LayoutRequest: // gives some dialogs their size
-        if (auto* window = qobject_cast<QWidget*>(object);
-            window != nullptr && window->isWindow() && QGuiApplication::platformName() == "wayland") {
-            const auto letGrow = [window] { window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); };
-            QMetaObject::invokeMethod(window, letGrow, Qt::QueuedConnection);
-        }
-        return false;
-    case QEvent::KeyPress: {
-        const auto* press = static_cast<QKeyEvent*>(event);
-        return press->isAutoRepeat() && (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter);
+    auto* window = object->isWidgetType() ? static_cast<QWidget*>(object) : nullptr;
+    const bool dialog = qobject_cast<QDialog*>(window) != nullptr;
+    if (dialog && event->type() == QEvent::Show)
+        CloseMenus();
+    // A layout request gives some dialogs their size. Until it is active, a window of a fixed size may float.
+    const bool fixed = dialog ? event->type() == QEvent::ShowToParent || event->type() == QEvent::LayoutRequest
+                              : event->type() == QEvent::WindowActivate;
+    if (fixed && window != nullptr && window->isWindow() && QGuiApplication::platformName() == "wayland") {
+        const auto setFree = [window, dialog] {
+            window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+            if (!dialog)
+                window->setMinimumSize(0, 0);
+        };
+        QMetaObject::invokeMethod(window, setFree, Qt::QueuedConnection);
     }
-    default:
+    if (event->type() != QEvent::KeyPress)
         return false;
-    }
+    const auto* press = static_cast<QKeyEvent*>(event);
+    return press->isAutoRepeat() && (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter);
 }
