@@ -71,15 +71,14 @@ private slots:
 
     void FollowsLinks()
     {
-        const QStringList links{"file.lnk", "chain.lnk", "nowhere.lnk", "circle.lnk"};
-        const QStringList targets{File, "file.lnk", "new.pux", "circle.lnk"};
+        const QStringList links{"file.lnk", "chain.lnk", "nowhere.lnk"};
+        const QStringList targets{File, "file.lnk", "new.pux"};
         for (int i = 0; i < links.size(); ++i)
             QVERIFY(QFile::link(targets[i], Folder.filePath(links[i])));
         QVERIFY(file_bytes::Save(Folder.filePath("chain.lnk"), "new"));
         QCOMPARE(Contents(File), "new");
         QVERIFY(file_bytes::Save(Folder.filePath("nowhere.lnk"), "new"));
         QCOMPARE(Contents(Folder.filePath("new.pux")), "new");
-        QVERIFY(!file_bytes::Save(Folder.filePath("circle.lnk"), "new"));
         for (const QString& link : links)
             QVERIFY(QFileInfo(Folder.filePath(link)).isSymLink());
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <string>
@@ -13,6 +14,6 @@ std::string Read(const QString& path, std::size_t most);
 /// Saves `bytes` at `path`, or where a link there leads. The new file is written beside the old one and replaces it
 /// when complete. Only if the folder does not allow that, the old file is overwritten. On Windows, tries again for a
 /// second while another program holds the old file. False on failure: the old file is then unchanged to the byte.
-bool Save(const QString& path, const std::string& bytes);
+bool Save(const QString& path, QByteArrayView bytes);
 
 } // namespace file_bytes

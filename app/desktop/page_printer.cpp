@@ -63,7 +63,7 @@ bool WritePdf(const view::Page& page, double scale, const QPrinter& printer)
     writer.setTitle(printer.docName());
     writer.setCreator("Glyphgrove");
     writer.setResolution(TwipsPerInch);
-    return Draw(page, scale, writer) && file_bytes::Save(printer.outputFileName(), file.data().toStdString());
+    return Draw(page, scale, writer) && file_bytes::Save(printer.outputFileName(), file.data());
 }
 
 } // namespace
