@@ -4,12 +4,15 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
+#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #else
 #include <future>
@@ -62,11 +65,62 @@ private slots:
     }
 
 #ifdef Q_OS_UNIX // on Windows, Qt does not report the real permissions and links
-    void KeepsPermissions()
+    /// A file is replaced where that changes nothing but its contents, else overwritten.
+    void KeepsAccess()
     {
-        QFile::setPermissions(File, QFile::ReadOwner | QFile::WriteOwner);
-        QVERIFY(file_bytes::Save(File, "new"));
-        QVERIFY(!(QFile::permissions(File) & QFile::ReadGroup));
+        // the owner may read and write, and so may the group or one more group
+        const QByteArray list = QByteArray::fromHex("0200000001000600ffffffff04000400ffffffff"
+                                                    "080006000900000010000600ffffffff20000000ffffffff");
+        const QByteArray otherList = QByteArray(list).replace(22, 1, "\4");
+        const auto owned = [&](uid_t owner, gid_t group) { return chown(qPrintable(File), owner, group) == 0; };
+        const auto sets = [](const QString& path, const char* name, const QByteArray& value) {
+            return setxattr(qPrintable(path), name, value, static_cast<size_t>(value.size()), 0) == 0;
+        };
+        struct Row {
+            const char* name;
+            bool replaced;
+            std::function<bool()> prepare; // false where this system or user cannot
+        };
+        for (const Row& row : {
+                 Row{"private file", true, [&] { return chmod(qPrintable(File), 0600) == 0; }},
+                 Row{"odd mode", false, [&] { return chmod(qPrintable(File), 01666) == 0; }},
+                 Row{"colleague's file", false, [&] { return owned(0, Nobody); }},
+                 Row{"group of the user", true, [&] { return owned(Nobody, Group); }},
+                 Row{"group of others", false, [&] { return owned(Nobody, 3); }},
+                 Row{"access list", false, [&] { return sets(File, "system.posix_acl_access", list); }},
+                 Row{"folder's access list", false,
+                     [&] { return sets(Folder.path(), "system.posix_acl_default", list); }},
+                 Row{"another list than the folder's", false,
+                     [&] {
+                         return sets(Folder.path(), "system.posix_acl_default", list) &&
+                                sets(File, "system.posix_acl_access", otherList);
+                     }},
+                 Row{"attribute", false, [&] { return sets(File, "user.origin", "a web page"); }},
+                 Row{"empty attribute", false, [&] { return sets(File, "user.origin", ""); }},
+                 Row{"second name", false, [&] { return link(qPrintable(File), qPrintable(File + '2')) == 0; }},
+             }) {
+            init();
+            Protect(0777, 0666);
+            if (!row.prepare()) {
+                qInfo("left out: %s", row.name);
+                continue;
+            }
+            const auto [access, inode] = Access();
+            QVERIFY2(SaveAsUser(File, "new"), row.name);
+            QCOMPARE(Contents(File), "new");
+            QVERIFY2(Access().first == access, row.name);
+            QVERIFY2((Access().second != inode) == row.replaced, row.name);
+        }
+    }
+
+    void SavesUnderNamesAsLongAsTheyGet()
+    {
+        for (const int length : {248, 249, 255}) {
+            const QString path = Folder.filePath(QString(length, 'n'));
+            QVERIFY2(file_bytes::Save(path, Long) && file_bytes::Save(path, "new"), qPrintable(path));
+            QCOMPARE(Contents(path), "new");
+        }
+        QCOMPARE(Folder.entryList(QDir::Files).size(), 4);
     }
 
     void FollowsLinks()
@@ -83,10 +137,10 @@ private slots:
             QVERIFY(QFileInfo(Folder.filePath(link)).isSymLink());
     }
 
-    /// The disk has no space for the new contents. The user may write to the folder in the first case only.
+    /// The disk has no space for the new contents. The user may write to the folder in the second case only.
     void LeavesTheEarlierFileWhereThereIsNoRoom()
     {
-        for (const mode_t folder : {0777U, 0555U}) {
+        for (const mode_t folder : {0555U, 0777U}) {
             Protect(folder, 0666);
             rlimit room{};
             getrlimit(RLIMIT_FSIZE, &room);
@@ -110,21 +164,42 @@ private slots:
         Protect(0777, 0444);
         QVERIFY(!SaveAsUser(File, "newer"));
         QCOMPARE(Contents(File), "new");
+        QVERIFY(mkfifo(qPrintable(File + '2'), 0666) == 0);
+        QVERIFY(!file_bytes::Save(File + '2', "new"));
     }
 
 private:
+    static constexpr uid_t Nobody = 65534;
+    static constexpr gid_t Group = 9; // Nobody's second
+
+    /// Returns who may do what with the file, its links and attributes; and which file it is.
+    std::pair<QByteArrayList, ino_t> Access() const
+    {
+        struct stat there {};
+        stat(qPrintable(File), &there);
+        QByteArrayList access;
+        for (const auto number : {there.st_uid, there.st_gid, there.st_mode, static_cast<uid_t>(there.st_nlink)})
+            access += QByteArray::number(number);
+        for (const char* name : {"system.posix_acl_access", "user.origin"}) {
+            QByteArray value(1000, 0);
+            access += value.left(getxattr(qPrintable(File), name, value.data(), 1000) + 1);
+        }
+        return {access, there.st_ino};
+    }
+
     void Protect(mode_t folder, mode_t file)
     {
+        QVERIFY(geteuid() != 0 || chown(qPrintable(File), Nobody, Nobody) == 0);
         QVERIFY(chmod(qPrintable(Folder.path()), folder) == 0 && chmod(qPrintable(File), file) == 0);
     }
 
     /// Saves as an ordinary user, even if root runs the test: root ignores permissions.
     static bool SaveAsUser(const QString& path, const std::string& bytes)
     {
-        constexpr uid_t Nobody = 65534;
-        const bool root = geteuid() == 0 && setresuid(Nobody, Nobody, 0) == 0;
+        const bool root =
+            geteuid() == 0 && setgroups(1, &Group) == 0 && setegid(Nobody) == 0 && setresuid(Nobody, Nobody, 0) == 0;
         const bool saved = file_bytes::Save(path, bytes);
-        return (!root || setresuid(0, 0, 0) == 0) && saved;
+        return (!root || (setresuid(0, 0, 0) == 0 && setegid(0) == 0 && setgroups(0, nullptr) == 0)) && saved;
     }
 #else
     /// A virus scanner may hold the file for a moment, an editor for longer.

@@ -1,5 +1,7 @@
 #include "app/desktop/file_bytes.h"
 
+#include "app/desktop/file_replacement.h"
+
 #include <QFileInfo>
 #include <QOperatingSystemVersion>
 #include <QSaveFile>
@@ -9,12 +11,22 @@ namespace file_bytes {
 
 namespace {
 
-// On Windows, a virus scanner or a synchronised folder may hold the file for a moment.
-constexpr int MostTries = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows ? 10 : 1;
-
-bool Overwrite(QFile& file, QByteArrayView bytes)
+/// On Windows, a virus scanner or a synchronised folder may hold a file for a moment.
+template <class Action>
+bool Try(Action action)
 {
-    return file.seek(0) && file.write(bytes.data(), bytes.size()) == bytes.size() && file.resize(bytes.size());
+    int tries = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows ? 10 : 1;
+    while (!action()) {
+        if (--tries == 0)
+            return false;
+        QThread::msleep(100);
+    }
+    return true;
+}
+
+bool Overwrite(QFile& file, QByteArrayView bytes, qint64 size)
+{
+    return file.seek(0) && file.write(bytes.data(), bytes.size()) == bytes.size() && file.resize(size);
 }
 
 /// Overwrites an existing file. If the new contents find no room, the old ones go back: they still have theirs.
@@ -23,11 +35,27 @@ bool WriteInPlace(const QString& path, QByteArrayView bytes)
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered))
         return false;
-    const QByteArray earlier = file.readAll();
-    if (Overwrite(file, bytes))
+    const qint64 size = file.size();
+    const QByteArray earlier = file.read(bytes.size());
+    if (Overwrite(file, bytes, bytes.size()))
         return true;
-    Overwrite(file, earlier);
+    Overwrite(file, earlier, size);
     return false;
+}
+
+bool SaveOnce(const QString& path, QByteArrayView bytes)
+{
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile())
+        return false;
+    if (QSaveFile file(path); file.open(QIODevice::WriteOnly)) {
+        // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
+        if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush())
+            return false;
+        if (ReplaceEarlierFile(file))
+            return true;
+    }
+    return there.exists() && WriteInPlace(path, bytes);
 }
 
 } // namespace
@@ -42,23 +70,7 @@ std::string Read(const QString& path, std::size_t most)
 
 bool Save(const QString& path, QByteArrayView bytes)
 {
-    const QFileInfo there(path);
-    if (there.exists() && !there.isFile())
-        return false;
-    for (int tries = 1;; ++tries) {
-        QSaveFile file(path);
-        // commit() flushes too, but ignores a failure, and then replaces the file with an empty one.
-        if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), bytes.size()) == bytes.size() &&
-            file.flush() && file.commit())
-            return true;
-        const bool refused = file.error() == QFileDevice::OpenError || file.error() == QFileDevice::RenameError;
-        const bool mayOverwrite = refused && there.isWritable();
-        if (mayOverwrite && WriteInPlace(path, bytes))
-            return true;
-        if (!mayOverwrite || tries == MostTries)
-            return false;
-        QThread::msleep(100);
-    }
+    return Try([&] { return SaveOnce(path, bytes); });
 }
 
 } // namespace file_bytes

@@ -5,15 +5,17 @@
 
 #include <string>
 
-/// Reads and writes the user's files, and regular files only: devices and pipes may never end.
+/// Reads and writes the user's files, and regular files only: devices and pipes may never end. While another program
+/// holds the old file on Windows, saving tries again for a second.
 namespace file_bytes {
 
 /// Returns up to `most` bytes from the start of the file at `path`; none when it cannot be read.
 std::string Read(const QString& path, std::size_t most);
 
 /// Saves `bytes` at `path`, or where a link there leads. The new file is written beside the old one and replaces it
-/// when complete. Only if the folder does not allow that, the old file is overwritten. On Windows, tries again for a
-/// second while another program holds the old file. False on failure: the old file is then unchanged to the byte.
+/// when complete. Where the folder does not allow that, or who may read and write the file, its attributes or its
+/// other names would change, the old file is overwritten. False on failure: the old file is then unchanged to the
+/// byte.
 bool Save(const QString& path, QByteArrayView bytes);
 
 } // namespace file_bytes
