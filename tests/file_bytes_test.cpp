@@ -15,6 +15,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 #else
+#include <atomic>
 #include <future>
 #include <windows.h>
 #endif
@@ -202,22 +203,65 @@ private:
         return (!root || (setresuid(0, 0, 0) == 0 && setegid(0) == 0 && setgroups(0, nullptr) == 0)) && saved;
     }
 #else
-    /// A virus scanner may hold the file for a moment, an editor for longer.
+    /// A virus scanner may hold a file for a moment, an editor for longer; some let others read and write.
     void WaitsForAFileThatIsHeld()
     {
-        for (const DWORD milliseconds : {300UL, 5000UL}) {
-            const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(File.utf16()), GENERIC_READ, 0, nullptr,
-                                            OPEN_EXISTING, 0, nullptr);
-            QVERIFY(held != INVALID_HANDLE_VALUE);
-            const auto letGo = std::async(std::launch::async, [=] { Sleep(milliseconds), CloseHandle(held); });
-            QCOMPARE(file_bytes::Save(File, milliseconds < 1000 ? "new" : "newer"), milliseconds < 1000);
-            letGo.wait();
-            QCOMPARE(Contents(File), "new");
-            QCOMPARE(Folder.entryList(QDir::Files).size(), 1);
-        }
+        for (const int sharing : {0, FILE_SHARE_READ | FILE_SHARE_WRITE})
+            for (const DWORD milliseconds : {300UL, 5000UL}) {
+                init();
+                const bool free = sharing != 0 || milliseconds < 1000;
+                auto letGo = Hold(File, sharing, milliseconds);
+                QCOMPARE(file_bytes::Read(File, 10), free ? std::string("old") : std::string());
+                letGo.wait();
+                letGo = Hold(File, sharing, milliseconds);
+                QCOMPARE(file_bytes::Save(File, "new"), free);
+                letGo.wait();
+                QCOMPARE(Contents(File), free ? "new" : "old");
+                QCOMPARE(Folder.entryList(QDir::Files).size(), 1);
+            }
+    }
+
+    /// Every second save is the first of its file.
+    void LeavesNoNewFileThatIsHeld()
+    {
+        std::atomic<int> caught = 0;
+        std::atomic<bool> enough = false;
+        const auto scanner = std::async(std::launch::async, [&, folder = QDir(Folder.path())] {
+            while (!enough)
+                for (const QString& name : folder.entryList(QDir::Files)) {
+                    if (name.endsWith(".pux"))
+                        continue;
+                    std::future<void> letGo;
+                    do
+                        letGo = Hold(folder.filePath(name), 0, 500);
+                    while (!letGo.valid() && GetLastError() == ERROR_SHARING_VIOLATION);
+                    caught += letGo.valid();
+                }
+        });
+        int saves = 0;
+        while (saves < 200 &&
+               file_bytes::Save(Folder.filePath(QString("%1.pux").arg(saves / 2)), QByteArray::number(saves)))
+            ++saves;
+        enough = true;
+        scanner.wait();
+        QCOMPARE(saves, 200);
+        qInfo("held: %d new files", caught.load());
+        for (int i = 1; i < saves; i += 2)
+            QCOMPARE(Contents(Folder.filePath(QString("%1.pux").arg(i / 2))), QByteArray::number(i));
+        QTRY_COMPARE_WITH_TIMEOUT(Folder.entryList({"*.pux.*"}, QDir::Files).size(), 0, 10'000);
     }
 
 private:
+    /// Opens the file and closes it in another thread after a while. No thread if it cannot be opened.
+    static std::future<void> Hold(const QString& path, int sharing, DWORD milliseconds)
+    {
+        const HANDLE held = CreateFileW(reinterpret_cast<const wchar_t*>(path.utf16()), GENERIC_READ,
+                                        static_cast<DWORD>(sharing), nullptr, OPEN_EXISTING, 0, nullptr);
+        if (held == INVALID_HANDLE_VALUE)
+            return {};
+        return std::async(std::launch::async, [=] { Sleep(milliseconds), CloseHandle(held); });
+    }
+
 #endif
     std::unique_ptr<QTemporaryDir> Disk;
     QDir Folder;

@@ -63,7 +63,7 @@ bool SaveOnce(const QString& path, QByteArrayView bytes)
 std::string Read(const QString& path, std::size_t most)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !Try([&] { return file.open(QIODevice::ReadOnly); }))
         return {};
     return file.read(static_cast<qint64>(most)).toStdString();
 }

@@ -6,7 +6,7 @@
 #include <string>
 
 /// Reads and writes the user's files, and regular files only: devices and pipes may never end. While another program
-/// holds the old file on Windows, saving tries again for a second.
+/// holds a file on Windows, tries again for a second.
 namespace file_bytes {
 
 /// Returns up to `most` bytes from the start of the file at `path`; none when it cannot be read.
