@@ -42,8 +42,15 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
         };
         QMetaObject::invokeMethod(window, setFree, Qt::QueuedConnection);
     }
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
-    const auto* press = static_cast<QKeyEvent*>(event);
-    return press->isAutoRepeat() && (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+        return false;
+    if (event->type() == QEvent::KeyRelease) {
+        Released = key->timestamp();
+        return false;
+    }
+    // In a window that has just opened, X11's repeated keys look like new ones, but for the time of their release.
+    return key->isAutoRepeat() || (key->timestamp() != 0 && key->timestamp() == Released);
 }

@@ -43,4 +43,7 @@ public:
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    quint64 Released = 0; ///< when Return was last released, in milliseconds
 };
