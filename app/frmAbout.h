@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
+#include <QPushButton>
 
 /// The About box: the maker, a paragraph about the program, its version. Modal, centred on its owner.
 class frmAbout : public QDialog {
@@ -10,10 +12,6 @@ public:
     explicit frmAbout(QWidget* owner);
 
 private:
-    double Scale; ///< for the interface's font
-
-    void BuildMaker();
-    void BuildTexts();
-    void BuildButton();
-    void AddText(const QString& name, const QString& text, int y, int height);
+    QLabel* NewText(const QString& name, const QString& text);
+    QPushButton* NewButton();
 };

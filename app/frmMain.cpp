@@ -13,35 +13,33 @@
 #include "wordlist/limits.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QSessionManager>
 
 namespace {
 
-// Positions and sizes in the client area, in twips.
-constexpr int ClientWidth = 10290;
-constexpr int ClientHeight = 6420;
-constexpr int Margin = 360;
-constexpr int BoxLeft = 1080;
-constexpr int BoxWidth = 3960;
-constexpr int RowHeight = 390;
-constexpr int TitleRow = 1260;
-constexpr int WordRow = 1770;
-constexpr int ListHeadRow = 2385;
-constexpr int BottomRow = 5895;
-constexpr int CounterLeft = 6900;
+constexpr int AllColumns = -1;
+
+// The rows of the client area's grid. Its columns: labels, boxes, Enter, Create Puzzle.
+enum Row { BigTitleRow, TitleRow, WordRow, ListHeadRow, ListRow, BottomRow };
 
 } // namespace
 
 frmMain::frmMain(generator::RandomSource random)
-    : Scale(looks::ScaleForFont(*this)), Folder(UsersDocuments()), Workspace(std::move(random))
+    : Grid(new QGridLayout(Client)), Folder(UsersDocuments()), Workspace(std::move(random))
 {
     InstallAccessibility();
     setObjectName("frmMain");
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    Grid->setContentsMargins(24, 4, 24, 8);
+    Grid->setSpacing(8);
+    Grid->setColumnStretch(1, 2); // the boxes' column
+    Grid->setColumnStretch(2, 1);
+    Grid->setColumnStretch(3, 1);
+    Grid->setRowStretch(ListRow, 1);
     BuildMenus();
     BuildToolbar();
     BuildTitle();
@@ -49,7 +47,7 @@ frmMain::frmMain(generator::RandomSource random)
     BuildCommandButtons();
     BuildWordList();
     BuildMakerLink();
-    FixClient(looks::SizeInPixels(*this, ClientWidth, ClientHeight, Scale));
+    FixClient(looks::SizeInPixels(*this, 10290, 6420));
     setWindowTitle(program::Name + " - " + program::NewPuzzle);
     connect(qApp, &QGuiApplication::commitDataRequest, this,
             [this](QSessionManager& session) { AnswerSession(session, [this] { return Form_QueryUnload(); }); });
@@ -90,13 +88,12 @@ QAction* frmMain::AddCommand(QMenu* menu, const char* name, const QString& capti
 
 void frmMain::BuildToolbar()
 {
-    QToolBar* toolbar = MakeToolbar("Toolbar1", tr("Puzzle and words"),
-                                    {{"New", tr("Start New Puzzle")},
-                                     {"Open", tr("Open Saved Puzzle")},
-                                     {"Save", tr("Save Puzzle")},
-                                     {"Delete", tr("Delete Word")}},
-                                    *Client, [this](int index) { Toolbar1_ButtonClick(index); });
-    looks::Place(*toolbar, 0, 0, ClientWidth, 360, Scale);
+    Grid->setMenuBar(MakeToolbar("Toolbar1", tr("Puzzle and words"),
+                                 {{"New", tr("Start New Puzzle")},
+                                  {"Open", tr("Open Saved Puzzle")},
+                                  {"Save", tr("Save Puzzle")},
+                                  {"Delete", tr("Delete Word")}},
+                                 *Client, [this](int index) { Toolbar1_ButtonClick(index); }));
 }
 
 void frmMain::BuildTitle()
@@ -105,13 +102,14 @@ void frmMain::BuildTitle()
     lblBigTitle->setText(program::NewPuzzle);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
     lblBigTitle->setAlignment(Qt::AlignCenter);
-    Add(lblBigTitle, "lblBigTitle", 120, 420, ClientWidth - 240, 735);
+    lblBigTitle->setFixedHeight(lblBigTitle->sizeHint().height() * 5 / 4); // room for two lines in a smaller font
+    Add(lblBigTitle, "lblBigTitle", BigTitleRow, 0, AllColumns);
 
     txtTitle = new TextBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(program::NewPuzzle);
-    Add(txtTitle, "txtTitle", BoxLeft, TitleRow, BoxWidth, RowHeight);
-    Add(NewLabel(tr("Title:"), txtTitle), "lblTitle", Margin, TitleRow, BoxLeft - Margin, RowHeight);
+    Add(txtTitle, "txtTitle", TitleRow, 1);
+    Add(NewLabel(tr("Title:"), txtTitle), "lblTitle", TitleRow, 0);
     connect(txtTitle, &QLineEdit::textChanged, this, &frmMain::txtTitle_Change);
     connect(txtTitle, &TextBox::Clicked, this, &frmMain::txtTitle_Click);
     connect(qApp, &QApplication::focusChanged, this,
@@ -123,22 +121,30 @@ void frmMain::BuildWordEntry()
     txtNewWords = new WordBox(Client);
     txtNewWords->setAccessibleName(tr("Word"));
     connect(txtNewWords, &WordBox::ListInserted, this, &frmMain::EnterList);
-    Add(txtNewWords, "txtNewWords", BoxLeft, WordRow, BoxWidth, RowHeight);
-    Add(NewLabel(tr("Word:"), txtNewWords), "lblWord", Margin, WordRow, BoxLeft - Margin, RowHeight);
+    Add(txtNewWords, "txtNewWords", WordRow, 1);
+    Add(NewLabel(tr("Word:"), txtNewWords), "lblWord", WordRow, 0);
 }
 
 void frmMain::BuildCommandButtons()
 {
-    cmdEnter = AddButton("cmdEnter", tr("Enter"), &frmMain::cmdEnter_Click, BoxLeft + BoxWidth + 150, WordRow, 1950,
-                         RowHeight);
+    cmdEnter = NewButton("cmdEnter", tr("Enter (EditMode)"), &frmMain::cmdEnter_Click);
+    cmdEnter->setMinimumWidth(cmdEnter->sizeHint().width());
+    LeaveEditMode();
     cmdEnter->setAutoDefault(false); // or it stops being the default once the focus has passed over it
     cmdEnter->setDefault(true);
-    cmdCreatePuzzle = AddButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click, 7680,
-                                TitleRow, 2250, WordRow + RowHeight - TitleRow);
+    Grid->addWidget(cmdEnter, WordRow, 2);
+    cmdCreatePuzzle = NewButton("cmdCreatePuzzle", tr("Create Puzzle"), &frmMain::cmdCreatePuzzle_Click);
     cmdCreatePuzzle->setEnabled(false);
-    cmdEditWord = AddButton("cmdEditWord", tr("Edit Word"), &frmMain::EditWord, 6885, ListHeadRow, 1470, RowHeight);
-    cmdDelete =
-        AddButton("cmdDelete", tr("Delete Word"), &frmMain::cmdDelete_Click, 8460, ListHeadRow, 1470, RowHeight);
+    Grid->addWidget(cmdCreatePuzzle, TitleRow, 3, 2, 1);
+
+    cmdEditWord = NewButton("cmdEditWord", tr("Edit Word"), &frmMain::EditWord);
+    cmdDelete = NewButton("cmdDelete", tr("Delete Word"), &frmMain::cmdDelete_Click);
+    auto* editButtons = new QHBoxLayout;
+    editButtons->addWidget(cmdEditWord);
+    editButtons->addWidget(cmdDelete);
+    Grid->addLayout(editButtons, ListHeadRow, 2, 1, 2, Qt::AlignRight);
+    for (const Row row : {TitleRow, WordRow, ListHeadRow})
+        Grid->setRowMinimumHeight(row, std::max(26, cmdDelete->sizeHint().height()));
     ShowEditButtons(false);
 }
 
@@ -146,41 +152,39 @@ void frmMain::BuildWordList()
 {
     lstWordlist = new WordList(Client);
     lstWordlist->setAccessibleName(tr("My Word List"));
-    Add(lstWordlist, "lstWordlist", Margin, 2835, ClientWidth - 2 * Margin, 2925);
+    Add(lstWordlist, "lstWordlist", ListRow, 0, AllColumns);
     connect(lstWordlist, &WordList::Chosen, this, Guarded([this](int position) { lstWordlist_Click(position); }));
     QLabel* heading = NewLabel(tr("My Word List"), lstWordlist);
     heading->setFont(looks::BoldItalic(looks::Serif, 14.25));
     heading->setAlignment(Qt::AlignCenter);
-    Add(heading, "lblMyWordlist", 3600, ListHeadRow, ClientWidth - 7200, RowHeight);
+    Add(heading, "lblMyWordlist", ListHeadRow, 0, AllColumns);
 
-    // The count ends at the list's right edge, its label just before it.
-    auto* counter = new QWidget(Client);
-    Add(counter, "", CounterLeft, BottomRow, ClientWidth - Margin - CounterLeft, RowHeight);
-    counter->setFont(heading->font());
+    auto* counter = new QHBoxLayout;
+    QLabel* countLabel = NewLabel(tr("Word Count:"));
+    countLabel->setObjectName("lblWordCountLabel");
     lblWordCount = NewLabel(QString());
     lblWordCount->setObjectName("lblWordCount");
-    QLabel* countLabel = NewLabel(tr("Word Count:"), lblWordCount);
-    countLabel->setObjectName("lblWordCountLabel");
-    auto* row = new QHBoxLayout(counter);
-    row->setContentsMargins({});
-    row->addStretch();
-    row->addWidget(countLabel);
-    row->addWidget(lblWordCount);
+    for (QLabel* label : {countLabel, lblWordCount}) {
+        label->setFont(heading->font());
+        counter->addWidget(label);
+    }
+    Grid->addLayout(counter, BottomRow, 2, 1, 2, Qt::AlignRight);
     WordCounter();
 }
 
 void frmMain::BuildMakerLink()
 {
     auto* lblTallowick = new MakerLink(9.75, Client);
+    lblTallowick->setObjectName("lblTallowick");
     lblTallowick->setToolTip(tr("Click to go to the Tallowick website."));
-    Add(lblTallowick, "lblTallowick", Margin, BottomRow + 60, 0, 0);
-    PlaceTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25));
+    Grid->addLayout(WithTrademark(*lblTallowick, looks::BoldItalic(looks::Monospaced, 8.25)), BottomRow, 0, 1, 2,
+                    Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-void frmMain::Add(QWidget* control, const char* name, int x, int y, int width, int height)
+void frmMain::Add(QWidget* control, const char* name, int row, int column, int columns)
 {
     control->setObjectName(name);
-    looks::Place(*control, x, y, width, height, Scale);
+    Grid->addWidget(control, row, column, 1, columns);
 }
 
 QLabel* frmMain::NewLabel(const QString& text, QWidget* buddy)
@@ -191,13 +195,13 @@ QLabel* frmMain::NewLabel(const QString& text, QWidget* buddy)
     return label;
 }
 
-QPushButton* frmMain::AddButton(const char* name, const QString& caption, void (frmMain::*command)(), int x, int y,
-                                int width, int height)
+QPushButton* frmMain::NewButton(const char* name, const QString& caption, void (frmMain::*command)())
 {
     auto* button = new QPushButton(caption, Client);
-    button->setAutoDefault(true); // Return presses it when it has the focus
+    button->setObjectName(name);
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); // as high as its row
+    button->setAutoDefault(true);                                        // Return presses it when it has the focus
     connect(button, &QPushButton::clicked, this, Guarded([=, this](bool /*checked*/) { (this->*command)(); }));
-    Add(button, name, x, y, width, height);
     return button;
 }
 

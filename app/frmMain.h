@@ -14,6 +14,8 @@
 
 #include <memory>
 
+class QGridLayout;
+
 /// The main window owns everything that the program keeps while it runs: the document in its title box and word list,
 /// the states of document and editor in its fields, the puzzle in its workspace. Each command is a procedure that
 /// sets every visible state itself.
@@ -44,10 +46,9 @@ private:
     void BuildCommandButtons();
     void BuildWordList();
     void BuildMakerLink();
-    void Add(QWidget* control, const char* name, int x, int y, int width, int height);
+    void Add(QWidget* control, const char* name, int row, int column, int columns = 1);
     QLabel* NewLabel(const QString& text, QWidget* buddy = nullptr);
-    QPushButton* AddButton(const char* name, const QString& caption, void (frmMain::*command)(), int x, int y,
-                           int width, int height);
+    QPushButton* NewButton(const char* name, const QString& caption, void (frmMain::*command)());
     void Form_Activate();
     void Toolbar1_ButtonClick(int index);
     void mnuAbout_Click();
@@ -99,7 +100,7 @@ private:
     void DrawToPictureBox();
     void Print_Puzzle();
 
-    double Scale; ///< of the whole window, for the interface's font
+    QGridLayout* Grid; ///< of the client area
     TitleLabel* lblBigTitle = nullptr;
     TextBox* txtTitle = nullptr;
     WordBox* txtNewWords = nullptr;

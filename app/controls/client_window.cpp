@@ -32,7 +32,7 @@ ClientWindow::ClientWindow(QScreen* screen) : Client(new QWidget), Area(new QScr
 
 void ClientWindow::FixClient(QSize size)
 {
-    Client->setFixedSize(size);
+    Client->setFixedSize(size.expandedTo(Client->minimumSizeHint()));
     looks::OutlineControls(*this);
     new FocusRing(Client);
     FitToScreen();

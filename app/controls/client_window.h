@@ -14,7 +14,8 @@ protected:
     /// Opens on `screen`, or on the primary one.
     explicit ClientWindow(QScreen* screen = nullptr);
 
-    /// Sets the size of the client area, in pixels. Call it when all controls are in place.
+    /// Fixes the size of the client area, in pixels: `size`, or more where its layout needs more. Call it when all
+    /// controls are in place.
     void FixClient(QSize size);
     /// Lets the arrow keys scroll the client area, for a window whose controls do not need them.
     void ScrollWithArrows();

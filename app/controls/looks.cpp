@@ -1,11 +1,8 @@
 #include "app/controls/looks.h"
 
 #include <QApplication>
-#include <QFontMetricsF>
 #include <QRegularExpression>
 #include <QWidget>
-
-#include <algorithm>
 
 namespace looks {
 
@@ -15,25 +12,15 @@ double ToPixels(const QWidget& widget, double twips)
     return twips * widget.logicalDpiX() / TwipsPerInch;
 }
 
-QSize SizeInPixels(const QWidget& widget, int width, int height, double scale)
+QSize SizeInPixels(const QWidget& widget, int width, int height)
 {
-    return {qRound(ToPixels(widget, width * scale)), qRound(ToPixels(widget, height * scale))};
+    return {qRound(ToPixels(widget, width)), qRound(ToPixels(widget, height))};
 }
 
-void Place(QWidget& widget, int x, int y, int width, int height, double scale)
+void Place(QWidget& widget, int x, int y, int width, int height)
 {
-    const QSize corner = SizeInPixels(widget, x, y, scale);
-    widget.setGeometry({{corner.width(), corner.height()}, SizeInPixels(widget, width, height, scale)});
-}
-
-double ScaleForFont(const QWidget& widget)
-{
-    // What a line and the longest caption take at the usual 9 points, in twips.
-    constexpr double UsualHeight = 210;
-    constexpr double UsualWidth = 1530;
-    const QFontMetricsF metrics(QApplication::font());
-    const double width = metrics.horizontalAdvance("Enter (EditMode)");
-    return std::max({1.0, metrics.height() / ToPixels(widget, UsualHeight), width / ToPixels(widget, UsualWidth)});
+    const QSize corner = SizeInPixels(widget, x, y);
+    widget.setGeometry({{corner.width(), corner.height()}, SizeInPixels(widget, width, height)});
 }
 
 void SetCaption(QWidget& window, QString text)

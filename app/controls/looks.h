@@ -15,14 +15,11 @@ inline const QString Monospaced = "Courier New";
 /// Converts twips (1/1440 inch) to pixels of `widget`, with fractions: windows grow with their fonts.
 double ToPixels(const QWidget& widget, double twips);
 
-/// Sets the geometry of `widget` in its parent, in twips times `scale`.
-void Place(QWidget& widget, int x, int y, int width, int height, double scale = 1);
+/// Sets the geometry of `widget` in its parent, in twips.
+void Place(QWidget& widget, int x, int y, int width, int height);
 
 /// Converts a size in twips to pixels of `widget`.
-QSize SizeInPixels(const QWidget& widget, int width, int height, double scale = 1);
-
-/// The factor, at least 1, by which a window must grow so that its texts fit in the interface's font.
-double ScaleForFont(const QWidget& widget);
+QSize SizeInPixels(const QWidget& widget, int width, int height);
 
 /// Sets the caption of `window`, unchanged even where it holds "[*]", a placeholder to the toolkit.
 void SetCaption(QWidget& window, QString text);

@@ -3,6 +3,7 @@
 #include "app/controls/looks.h"
 #include "app/program.h"
 
+#include <QBoxLayout>
 #include <QDesktopServices>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -15,6 +16,7 @@ void LookLikeTheMaker(QLabel& label, const QFont& font)
     label.setFont(font);
     label.setPalette(looks::OnWhite(looks::MakerRed));
     label.setAutoFillBackground(true);
+    label.setContentsMargins(0, 0, 2, 0); // slanted letters reach beyond their width
 }
 
 } // namespace
@@ -45,12 +47,15 @@ void MakerLink::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
 }
 
-void PlaceTrademark(MakerLink& link, const QFont& font)
+QLayout* WithTrademark(MakerLink& link, const QFont& font)
 {
     auto* trademark = new QLabel("TM", link.parentWidget());
     trademark->setObjectName("lblTM");
     LookLikeTheMaker(*trademark, font);
-    link.resize(link.sizeHint() + QSize(2, 0));
-    trademark->setGeometry(link.geometry().right() + 1, link.y(), trademark->sizeHint().width(), link.height());
     trademark->setAlignment(Qt::AlignTop);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(&link);
+    row->addWidget(trademark);
+    return row;
 }

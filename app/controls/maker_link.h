@@ -17,5 +17,5 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// Makes a link as wide as its text and puts a small "TM" beside it. Place the link first.
-void PlaceTrademark(MakerLink& link, const QFont& font);
+/// Returns a row of `link` and a small "TM" beside it, for a layout of the link's window.
+QLayout* WithTrademark(MakerLink& link, const QFont& font);

@@ -70,6 +70,7 @@ QValidator::State TextValidator::validate(QString& text, int& cursor) const
 TextBox::TextBox(const wordlist::TextRule& rule, QWidget* parent)
     : QLineEdit(parent), Validator(new TextValidator(*this, rule))
 {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred); // as high as its row
     setMaxLength(static_cast<int>(document::MaxFileBytes)); // room for any file's title; the rule limits the user
     setValidator(Validator);
     const auto remember = [this] { Validator->Remember(); };

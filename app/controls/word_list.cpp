@@ -1,6 +1,7 @@
 #include "app/controls/word_list.h"
 
 #include "app/controls/looks.h"
+#include "wordlist/limits.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int Columns = 4;
 constexpr int Rows = 10;
+constexpr int Margin = 1; ///< at fractional scales entries would cover the border
 
 } // namespace
 
@@ -18,7 +20,7 @@ WordList::WordList(QWidget* parent) : QListWidget(parent)
 {
     setWrapping(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setViewportMargins(1, 1, 1, 1); // at fractional scales entries would cover the border
+    setViewportMargins(Margin, Margin, Margin, Margin);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
 }
@@ -67,6 +69,13 @@ int WordList::SelectedPosition() const
 int WordList::CurrentPosition() const
 {
     return currentRow() < 0 ? Current.row() : currentRow();
+}
+
+QSize WordList::minimumSizeHint() const
+{
+    const int column = static_cast<int>(wordlist::MaxWordLength) * fontMetrics().averageCharWidth();
+    const int border = 2 * (frameWidth() + Margin);
+    return {Columns * column + border, Rows * (fontMetrics().height() + 3) + 1 + border};
 }
 
 /// Only a file holds more words than the columns. A bar shown "as needed" would reserve its room all the time.

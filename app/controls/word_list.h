@@ -23,8 +23,9 @@ public:
     void Remove(int position);
     /// Replaces an entry with `word`. It stays current, but is no longer selected.
     void Replace(int position, const QString& word);
-    int SelectedPosition() const; ///< -1 when nothing is selected
-    int CurrentPosition() const;  ///< -1 when the list is empty
+    int SelectedPosition() const;           ///< -1 when nothing is selected
+    int CurrentPosition() const;            ///< -1 when the list is empty
+    QSize minimumSizeHint() const override; ///< room for four columns of ten words of the usual length limit
 
 signals:
     /// The user chose the entry at `position`, perhaps once more.
