@@ -1,7 +1,8 @@
-#include "app/controls/icons.h"
 #include "app/desktop/application.h"
 #include "app/frmMain.h"
 #include "app/program.h"
+
+#include <QIcon>
 
 int main(int argc, char* argv[])
 {
@@ -9,7 +10,10 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QApplication::setApplicationName(program::Name);
     QGuiApplication::setDesktopFileName("example.tallowick.Glyphgrove"); // Wayland finds the icon by it
-    QApplication::setWindowIcon(icons::OfProgram());
+    QIcon icon;
+    for (const char* size : {"16", "32", "48"}) // the desktop finds larger ones itself
+        icon.addFile(QString(":/pictures/glyphgrove-%1.png").arg(size));
+    QApplication::setWindowIcon(icon);
 
     const WindowKeeper keeper;
     frmMain window;

@@ -4,15 +4,10 @@
 
 namespace view {
 
-double GridSpacing(int size, double surfaceWidth)
-{
-    return surfaceWidth / size * 0.8;
-}
-
-std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, int surfaceWidth)
+std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, double surfaceWidth)
 {
     const int size = workspace.PuzzleSize;
-    const double spacing = GridSpacing(size, surfaceWidth);
+    const double spacing = surfaceWidth / size * 0.8;
     std::vector<DrawnLetter> letters;
     for (int row = 1; row <= size; ++row) {
         const double y = std::nearbyint(row * spacing); // ties go to even

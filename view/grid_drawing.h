@@ -13,12 +13,8 @@ struct DrawnLetter {
     double y; ///< top edge in whole twips
 };
 
-/// Returns the distance between letters, in the unit of `surfaceWidth`, for a grid of `size` rows on a square
-/// surface. The grid takes four fifths of the width. Infinite when `size` is 0.
-double GridSpacing(int size, double surfaceWidth);
-
-/// Places the letters of the grid, row by row, on a square surface of `surfaceWidth` twips. Cell (r, c), counted from
-/// 1, lies c spacings from the left and r from the top. Empty while there is no grid.
-std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, int surfaceWidth);
+/// Places the letters of the grid, row by row, on a square surface of `surfaceWidth` twips, four fifths of which they
+/// take. Cell (r, c), counted from 1, lies c spacings from the left and r from the top. Empty while there is no grid.
+std::vector<DrawnLetter> LayOutGrid(const generator::PuzzleWorkspace& workspace, double surfaceWidth);
 
 } // namespace view

@@ -12,29 +12,19 @@ PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent)
     setFont(looks::Font(looks::Monospaced, 8.25));
 }
 
-void PuzzleSurface::Write(const std::vector<view::DrawnLetter>& letters)
+void PuzzleSurface::Write(std::vector<view::DrawnLetter> letters)
 {
-    Letters.insert(Letters.end(), letters.begin(), letters.end());
-    update();
-}
-
-QStringList PuzzleSurface::Rows() const
-{
-    QStringList rows;
-    double y = -1;
+    Letters = std::move(letters);
+    QWidget* row = nullptr;
+    double y = 0; // of no row
     for (const view::DrawnLetter& letter : Letters) {
-        if (std::exchange(y, letter.y) == letter.y)
-            rows.last().append(' ').append(QLatin1Char(letter.letter));
-        else
-            rows += QString(QLatin1Char(letter.letter));
+        if (std::exchange(y, letter.y) != letter.y) {
+            row = new QWidget(this);
+            row->setGeometry(0, qRound(looks::ToPixels(*this, letter.y)), width(),
+                             qRound(looks::ToPixels(*this, Letters.front().y)));
+        }
+        row->setAccessibleName((row->accessibleName() + ' ' + QLatin1Char(letter.letter)).trimmed());
     }
-    return rows;
-}
-
-QRect PuzzleSurface::RowRect(int row) const
-{
-    const double spacing = view::GridSpacing(static_cast<int>(Rows().size()), height());
-    return {mapToGlobal(QPoint(0, qRound(spacing * (row + 1)))), QSize(width(), qRound(spacing))};
 }
 
 void PuzzleSurface::paintEvent(QPaintEvent* /*event*/)

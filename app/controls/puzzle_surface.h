@@ -6,19 +6,16 @@
 
 #include <vector>
 
-/// The surface that shows a puzzle's grid. It keeps what was written on it.
+/// The surface that shows a puzzle's grid. Each row has a child that paints nothing: an entry of a list to screen
+/// readers, its letters as its name, with spaces between them so that they are spelled out.
 class PuzzleSurface : public QWidget {
     Q_OBJECT
 
 public:
     explicit PuzzleSurface(QWidget* parent);
 
-    /// Adds letters, at positions in twips.
-    void Write(const std::vector<view::DrawnLetter>& letters);
-    /// The letters, one text per row, with spaces between them.
-    QStringList Rows() const;
-    /// The place of row `row`, counted from 0, on the screen in pixels.
-    QRect RowRect(int row) const;
+    /// Shows the letters of a grid, row by row, at positions in twips.
+    void Write(std::vector<view::DrawnLetter> letters);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,5 @@
 #include "app/controls/toolbars.h"
 
-#include "app/controls/icons.h"
 #include "app/desktop/application.h"
 
 #include <QLayout>
@@ -16,7 +15,7 @@ QToolBar* MakeToolbar(const char* name, const QString& accessibleName, const std
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const ToolbarButton& button : buttons) {
         const QString key = button.key;
-        QAction* action = toolbar->addAction(icons::ForToolbar(key.toLower()), button.tooltip);
+        QAction* action = toolbar->addAction(QIcon(":/pictures/" + key.toLower() + ".png"), button.tooltip);
         action->setObjectName(key);
         toolbar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // in the tab order
         const auto index = static_cast<int>(toolbar->actions().size());
