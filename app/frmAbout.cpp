@@ -3,7 +3,7 @@
 #include "app/controls/focus_ring.h"
 #include "app/controls/looks.h"
 #include "app/controls/maker_link.h"
-#include "app/program.h"
+#include "app/desktop/program.h"
 
 #include <QApplication>
 #include <QGridLayout>

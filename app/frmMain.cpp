@@ -7,10 +7,9 @@
 #include "app/desktop/application.h"
 #include "app/desktop/folders.h"
 #include "app/desktop/message_boxes.h"
+#include "app/desktop/program.h"
 #include "app/frmAbout.h"
-#include "app/program.h"
 #include "document/character_set.h"
-#include "wordlist/limits.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -105,7 +104,7 @@ void frmMain::BuildTitle()
     lblBigTitle->setFixedHeight(lblBigTitle->sizeHint().height() * 5 / 4); // room for two lines in a smaller font
     Add(lblBigTitle, "lblBigTitle", BigTitleRow, 0, AllColumns);
 
-    txtTitle = new TextBox({document::TakesInTitle, wordlist::MaxTitleLength}, Client);
+    txtTitle = new TextBox({document::TakesInTitle, document::MaxTitleLength}, Client);
     txtTitle->setAccessibleName(tr("Title"));
     txtTitle->setText(program::NewPuzzle);
     Add(txtTitle, "txtTitle", TitleRow, 1);
@@ -246,7 +245,7 @@ void frmMain::Toolbar1_ButtonClick(int index)
         DeleteSelectedWord();
         break;
     default:
-        ShowMessage(this, tr("Button not in use yet"));
+        ShowMessageBox(this, tr("Button not in use yet"));
     }
 }
 

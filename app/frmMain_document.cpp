@@ -1,7 +1,7 @@
 #include "app/controls/looks.h"
 #include "app/desktop/message_boxes.h"
+#include "app/desktop/program.h"
 #include "app/frmMain.h"
-#include "app/program.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -18,8 +18,8 @@ bool frmMain::CheckForSave()
     if (AsksToSave && QApplication::activeModalWidget() != nullptr)
         return true;
     const QScopedValueRollback asks(AsksToSave, true);
-    switch (ShowMessage(this, tr("Do you want to save the changes you made to your Glyphgrove?"), tr("Important"),
-                        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+    switch (ShowMessageBox(this, tr("Do you want to save the changes you made to your Glyphgrove?"), tr("Important"),
+                           QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
     case QMessageBox::Yes:
         if (mnuSave->isEnabled())
             mnuSave_Click();
@@ -81,7 +81,7 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 bool frmMain::Form_QueryUnload()
 {
-    return !EntersList && (Saved || !CheckForSave());
+    return !EntersList && !CheckForSave();
 }
 
 void frmMain::Form_Unload()

@@ -56,7 +56,7 @@ void frmMain::ToolbarSave()
     else if (mnuSaveAs->isEnabled())
         mnuSaveAs_Click();
     else
-        ShowMessage(this, tr("You must have at least one word to save the puzzle."));
+        ShowMessageBox(this, tr("You must have at least one word to save the puzzle."));
 }
 
 /// Writes the document to `fileName`. False when that fails: the document then still counts as unsaved.
@@ -80,13 +80,13 @@ bool frmMain::LoadFile(const QString& fileName)
     mnuSave->setEnabled(true);
     const document::PuzzleFile file = document::ReadPuzzle(file_bytes::Read(fileName, document::MaxFileBytes));
     if (file.marker == document::Marker::Older)
-        ShowMessage(this,
-                    tr("This is a Glyphgrove 2.1 file. "
-                       "For maximum performance, saving this file will update it to 2.1.1 format."),
-                    tr("Important!"));
+        ShowMessageBox(this,
+                       tr("This is a Glyphgrove 2.1 file. "
+                          "For maximum performance, saving this file will update it to 2.1.1 format."),
+                       tr("Important!"));
     if (file.marker == document::Marker::Unknown) {
-        ShowMessage(this, tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
-                    tr("WARNING!"));
+        ShowMessageBox(this, tr("Not a valid Glyphgrove %1 File or file corrupted").arg(program::Version),
+                       tr("WARNING!"));
         mnuSave->setEnabled(false);
         mnuSaveAs->setEnabled(false);
         return true;

@@ -2,12 +2,50 @@
 #include "app/desktop/message_boxes.h"
 #include "app/desktop/page_printer.h"
 #include "app/desktop/print_dialog.h"
+#include "app/desktop/program.h"
 #include "app/frmMain.h"
-#include "app/program.h"
 #include "view/grid_drawing.h"
 #include "wordlist/limits.h"
 
 #include <QApplication>
+#include <QRegularExpression>
+
+namespace {
+
+/// One paragraph of a message: what to do, then the words it applies to. Empty when there are no such words. The
+/// message must fit a screen even when a file holds a hundred very long words.
+QString Demand(const QString& demand, const std::vector<std::u16string>& words)
+{
+    constexpr qsizetype NamedCharacters = 40;
+    constexpr qsizetype NamedWords = 15;
+    static const QRegularExpression control("[\\x00-\\x1f]");
+    QStringList names;
+    for (const std::u16string& word : words) {
+        QString name = QString::fromStdU16String(word).replace(control, " ");
+        if (name.size() > NamedCharacters)
+            name = name.left(NamedCharacters) + u'…';
+        names += '"' + name + '"';
+    }
+    const QString more = QObject::tr(" and %1 more").arg(names.size() - NamedWords);
+    return names.isEmpty() ? QString()
+                           : "\n\n" + demand + '\n' + names.mid(0, NamedWords).join(", ") +
+                                 (names.size() > NamedWords ? more : QString());
+}
+
+QString Message(const wordlist::Obstacle& obstacle, std::size_t words)
+{
+    return QObject::tr("This word list cannot become a puzzle yet.") +
+           Demand(QObject::tr("It holds %1 words, and a puzzle has room for %2. Please remove %3; these stand after "
+                              "the last that fits:")
+                      .arg(words)
+                      .arg(wordlist::MaxWords)
+                      .arg(obstacle.surplus.size()),
+                  obstacle.surplus) +
+           Demand(QObject::tr("Please shorten to %1 characters:").arg(wordlist::MaxWordLength), obstacle.tooLong) +
+           Demand(QObject::tr("Please remove, or give a letter to hide:"), obstacle.letterless);
+}
+
+} // namespace
 
 void frmMain::cmdCreatePuzzle_Click()
 {
@@ -16,7 +54,7 @@ void frmMain::cmdCreatePuzzle_Click()
         return; // the session has ended meanwhile
     const auto words = lstWordlist->Words();
     if (const auto obstacle = wordlist::ObstacleToPuzzle(words)) {
-        ShowMessage(this, QString::fromStdU16String(*obstacle));
+        ShowMessageBox(this, Message(*obstacle, words.size()));
         return;
     }
     FillPuzzleWindow();

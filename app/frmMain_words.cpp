@@ -42,7 +42,7 @@ bool frmMain::AddWord()
         return true;
     }
     if (lstWordlist->count() >= wordlist::MaxWords) {
-        ShowMessage(this, tr("40 word limit reached!"), tr("Word Limit!"));
+        ShowMessageBox(this, tr("40 word limit reached!"), tr("Word Limit!"));
         ClearTextbox();
         return false;
     }
@@ -63,8 +63,8 @@ bool frmMain::AddWord()
 bool frmMain::UserWantsDuplicates(const QString& word)
 {
     for (auto equals = std::ranges::count(lstWordlist->Words(), word.toStdU16String()); equals > 0; --equals)
-        if (ShowMessage(this, tr("Word already exists in your list! Do you want to put it into your list again?"),
-                        tr("Duplicate warning"), QMessageBox::Yes | QMessageBox::No) == QMessageBox::No)
+        if (ShowMessageBox(this, tr("Word already exists in your list! Do you want to put it into your list again?"),
+                           tr("Duplicate warning"), QMessageBox::Yes | QMessageBox::No) == QMessageBox::No)
             return false;
     return true;
 }

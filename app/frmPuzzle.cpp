@@ -3,7 +3,7 @@
 #include "app/controls/looks.h"
 #include "app/controls/toolbars.h"
 #include "app/desktop/application.h"
-#include "app/program.h"
+#include "app/desktop/program.h"
 
 #include <QCloseEvent>
 

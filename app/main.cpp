@@ -1,6 +1,6 @@
 #include "app/desktop/application.h"
+#include "app/desktop/program.h"
 #include "app/frmMain.h"
-#include "app/program.h"
 
 #include <QIcon>
 

@@ -12,6 +12,8 @@ char16_t DecodeCharacter(char byte);
 /// Returns the byte for `character`, or std::nullopt when the character set lacks it.
 std::optional<char> EncodeCharacter(char16_t character);
 
+inline constexpr int MaxTitleLength = 30; ///< characters of a title that the user can type
+
 /// The rule of the title box: printable characters that a puzzle file can hold.
 bool TakesInTitle(char16_t character, bool boxIsEmpty);
 

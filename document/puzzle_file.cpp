@@ -61,7 +61,7 @@ PuzzleFile ReadPuzzle(std::string_view bytes)
     if (file.marker != Marker::Current && file.marker != Marker::Older)
         return file;
     file.title = NextField(bytes, position);
-    while (file.title && file.words.size() < MaxRecords) {
+    while (file.title && file.words.size() < MaxWordsRead) {
         auto word = NextField(bytes, position);
         if (!word || word->empty())
             break;

@@ -12,7 +12,7 @@ namespace document {
 /// The program's version; also the first record of every file that it writes.
 inline constexpr std::string_view Version = GLYPHGROVE_VERSION;
 
-inline constexpr int MaxRecords = 101; ///< words read from one file; the rest is ignored
+inline constexpr int MaxWordsRead = 101; ///< words read from one file; the rest is ignored
 
 /// Bytes read from one file. A full list takes less than 2 KiB; the limit keeps a huge file from filling memory.
 inline constexpr std::size_t MaxFileBytes = 65'536;

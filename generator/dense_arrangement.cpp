@@ -45,8 +45,10 @@ public:
     }
     void Occupy(int row, int column)
     {
-        for (const Step step : Directions)
+        for (int direction = 1; direction <= DirectionCount; ++direction) {
+            const Step step = StepOf(direction);
             LineOf(step, row, column) |= Mask{1} << BitOf(step, row, column);
+        }
     }
 
 private:
@@ -87,7 +89,7 @@ bool PuzzleWorkspace::PlaceAnywhere(int word, OccupiedLines& lines)
     TakeWord(word);
     std::string letters;
     WalkWord(
-        word, LetterIndex, [] {}, [&letters](char letter) { return letters.push_back(letter), true; });
+        word, [] {}, [&letters](char letter) { return letters.push_back(letter), true; });
     std::vector<std::tuple<int, int, int>> legal; // direction, row, column
     legal.reserve(std::size_t{DirectionCount} * MaxPuzzleSize * MaxPuzzleSize);
     for (int direction = 1; direction <= DirectionCount; ++direction) {

@@ -55,7 +55,7 @@ void PuzzleWorkspace::PseudoLoadPuzzleArray()
     PseudoFits = true;
     int sharedLetters = 0;
     const auto move = [this] { PseudoCurrentDirection(); };
-    WalkWord(PseudoWord, PseudoLetter, move, [&](char letter) {
+    PseudoLetter = WalkWord(PseudoWord, move, [&](char letter) {
         const char cell = PuzzleArray(PseudoRow, PseudoColumn);
         PseudoFits = cell == Empty || (cell == letter && ++sharedLetters == 1);
         return PseudoFits;

@@ -25,17 +25,10 @@ void RandomSource::Reseed()
     State = Mix((State ^ ReadClock()) + Increment);
 }
 
-float RandomSource::Draw()
-{
-    constexpr float Scale = 1.0F / (1U << 24U);
-    State += Increment;
-    return static_cast<float>(Mix(State) >> 40U) * Scale;
-}
-
 int RandomSource::DrawBelow(int count)
 {
-    return static_cast<int>(static_cast<double>(count) *
-                            static_cast<double>(Draw())); // exact, so it never reaches count
+    State += Increment;
+    return static_cast<int>(((Mix(State) >> 40U) * static_cast<std::uint64_t>(count)) >> 24U);
 }
 
 std::uint64_t RandomSource::SystemClock()

@@ -17,10 +17,8 @@ public:
     /// Mixes a clock reading into the state. The sequence does not start over, even when the clock has not advanced.
     void Reseed();
 
-    /// Returns a number u, 0 <= u < 1, made of 24 random bits.
-    float Draw();
-
-    /// Returns floor(count * u) for the next u: 0..count - 1, equally likely. `count` must be 1..2^24 - 1.
+    /// Returns 0..count - 1, equally likely: floor(count * u) for a u >= 0 and < 1 of 24 random bits. `count` must be
+    /// 1..2^24 - 1.
     int DrawBelow(int count);
 
 private:

@@ -82,7 +82,7 @@ public:
     /// letters in the grid, and only a cell with the same letter. Writes no cell.
     void PseudoLoadPuzzleArray();
 
-    // The driver (driver.cpp).
+    // The passes over all words (passes.cpp).
 
     /// Turns the loaded words into a finished grid: sets its size, places every word and fills the rest. After six
     /// failed passes it enlarges the grid by one; after six at 30 x 30 it uses the dense arrangement.
@@ -101,20 +101,22 @@ private:
     class OccupiedLines;
 
     /// Calls visit(letter) for each letter of the word, and move() between letters. Skips Blank. Stops when visit
-    /// returns false or at the first empty slot, and leaves `slot` there: MaxWordLength + 1 if no slot is empty.
+    /// returns false or at the first empty slot. Returns the slot: MaxWordLength + 1 if no slot is empty.
     template <class Move, class Visit>
-    void WalkWord(int word, int& slot, Move move, Visit visit) const
+    int WalkWord(int word, Move move, Visit visit) const
     {
         bool first = true;
-        for (slot = 1; slot <= wordlist::MaxWordLength && WordsArray(word, slot) != Empty; ++slot) {
+        int slot = 1;
+        for (; slot <= wordlist::MaxWordLength && WordsArray(word, slot) != Empty; ++slot) {
             const char letter = WordsArray(word, slot);
             if (letter == Blank)
                 continue;
             if (!std::exchange(first, false))
                 move();
             if (!visit(letter))
-                return;
+                break;
         }
+        return slot;
     }
     std::pair<int, int> Starts(int step) const;
     bool PlaceAllWords();

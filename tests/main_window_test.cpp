@@ -90,6 +90,27 @@ private slots:
                               open + "beside it: Pets", open + "beside it: ", "Yes|No Yes", "Yes|No|Cancel Yes"}));
     }
 
+    void NamesWhatKeepsTheListFromAPuzzle()
+    {
+        auto& list = Control<WordList>("lstWordlist");
+        const auto told = [&](int count, const QString& word) {
+            for (list.clear(); count > 0; --count)
+                list.Insert(0, word);
+            Run("ok create");
+            return Answering.Shown().value(0);
+        };
+        Control<QWidget>("cmdCreatePuzzle").setEnabled(true);
+        const QString start = "Glyphgrove: This word list cannot become a puzzle yet.\n\n";
+        QCOMPARE(told(41, "CAT"), start + "It holds 41 words, and a puzzle has room for 40. Please remove 1; these "
+                                          "stand after the last that fits:\n\"CAT\"");
+        QVERIFY(told(55, "CAT").endsWith(QString("\"CAT\", ").repeated(14) + "\"CAT\""));
+        QVERIFY(told(56, "CAT").endsWith("\"CAT\" and 1 more"));
+        const QString longest(40, 'B');
+        QCOMPARE(told(1, longest), start + "Please shorten to 20 characters:\n\"" + longest + '"');
+        QVERIFY(told(1, longest + 'B').endsWith(longest + "\u2026\""));
+        QCOMPARE(told(2, "1\n"), start + "Please remove, or give a letter to hide:\n\"1 \", \"1 \"");
+    }
+
     void ListsInFourColumnsOfTen()
     {
         Run("fill:40");

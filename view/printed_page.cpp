@@ -1,5 +1,7 @@
 #include "view/printed_page.h"
 
+#include "view/twips.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,6 @@ namespace view {
 
 namespace {
 
-constexpr double TwipsPerPoint = 20;
 constexpr double TitleTop = 720;
 constexpr double WordsLeft = 720;
 constexpr double WordsTop = 1800;
@@ -38,7 +39,8 @@ void LayOutWords(Page& page, const PageMetrics& printer, const PageFont& font, d
 }
 
 /// The font is half as high as a cell. Where that exceeds MaxGridFontSize, the cells shrink to match the font.
-void LayOutGrid(Page& page, const PageMetrics& printer, double lineStep, const generator::PuzzleWorkspace& workspace)
+void LayOutLetters(Page& page, const PageMetrics& printer, double lineStep,
+                   const generator::PuzzleWorkspace& workspace)
 {
     const int size = workspace.PuzzleSize;
     double step = std::nearbyint(GridWidth / size);
@@ -69,7 +71,7 @@ Page LayOutPage(const PageMetrics& printer, std::u16string_view title, std::span
     Page page{{{titleFont, titleLeft, TitleTop, std::u16string(title)}},
               {BoxMargin, BoxTop, printer.width - BoxMargin, BoxTop + BoxLines * lineStep + 0.3}};
     LayOutWords(page, printer, wordFont, lineStep, words);
-    LayOutGrid(page, printer, lineStep, workspace);
+    LayOutLetters(page, printer, lineStep, workspace);
     return page;
 }
 

@@ -3,17 +3,21 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace wordlist {
 
-inline constexpr int MaxWords = 40;       ///< entries of a list that can become a puzzle
-inline constexpr int MaxWordLength = 20;  ///< characters of an entry, spaces included
-inline constexpr int MaxTitleLength = 30; ///< characters of a title that the user can type
+inline constexpr int MaxWords = 40;      ///< entries of a list that can become a puzzle
+inline constexpr int MaxWordLength = 20; ///< characters of an entry, spaces included
 
-/// Checks a list against the limits: at most MaxWords entries, each of at most MaxWordLength characters. An entry
-/// needs at least one letter, unless it is empty or all spaces: such an entry hides nothing. Returns std::nullopt
-/// when the list can become a puzzle, and otherwise a message that names the words to shorten or remove. Typing
-/// cannot break a limit, but a file can.
-std::optional<std::u16string> ObstacleToPuzzle(std::span<const std::u16string> words);
+/// What keeps a list from becoming a puzzle, in its order. Typing cannot cause it, but a file can.
+struct Obstacle {
+    std::vector<std::u16string> surplus;    ///< the words after the first MaxWords
+    std::vector<std::u16string> tooLong;    ///< the words of more than MaxWordLength characters
+    std::vector<std::u16string> letterless; ///< the words without a letter to hide; not those of spaces alone
+};
+
+/// Returns std::nullopt when the list can become a puzzle.
+std::optional<Obstacle> ObstacleToPuzzle(std::span<const std::u16string> words);
 
 } // namespace wordlist

@@ -1,5 +1,7 @@
 #include "app/controls/looks.h"
 
+#include "view/twips.h"
+
 #include <QApplication>
 #include <QRegularExpression>
 #include <QWidget>
@@ -8,8 +10,7 @@ namespace looks {
 
 double ToPixels(const QWidget& widget, double twips)
 {
-    constexpr double TwipsPerInch = 1440;
-    return twips * widget.logicalDpiX() / TwipsPerInch;
+    return twips * widget.logicalDpiX() / view::TwipsPerInch;
 }
 
 QSize SizeInPixels(const QWidget& widget, int width, int height)

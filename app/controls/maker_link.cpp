@@ -1,7 +1,7 @@
 #include "app/controls/maker_link.h"
 
 #include "app/controls/looks.h"
-#include "app/program.h"
+#include "app/desktop/program.h"
 
 #include <QBoxLayout>
 #include <QDesktopServices>

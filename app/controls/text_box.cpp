@@ -132,8 +132,9 @@ WordBox::WordBox(QWidget* parent) : TextBox({wordlist::TakesInWord, wordlist::Ma
 void WordBox::keyPressEvent(QKeyEvent* event)
 {
     const bool control = (event->modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier; // with Alt it is AltGr
+    // These keys make control characters, which no word has. The window may have commands for them.
     if (control && event->key() >= Qt::Key_At && event->key() <= Qt::Key_Underscore)
-        event->ignore(); // for the window
+        event->ignore();
     else
         TextBox::keyPressEvent(event);
 }

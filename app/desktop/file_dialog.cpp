@@ -52,11 +52,12 @@ void FileDialog::accept()
 {
     const QString path = Path();
     if (!FolderExists(path))
-        ShowMessage(this, tr("There is no such folder:\n%1").arg(QFileInfo(path).path()));
+        ShowMessageBox(this, tr("There is no such folder:\n%1").arg(QFileInfo(path).path()));
     else if (!path.contains('"') || QFileInfo(path).isDir())
         QFileDialog::accept();
     else if (acceptMode() == AcceptOpen || !QFileInfo::exists(path) ||
-             ShowMessage(this, tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName()),
-                         windowTitle(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
+             ShowMessageBox(this,
+                            tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName()),
+                            windowTitle(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
         QDialog::accept();
 }

@@ -1,7 +1,7 @@
 #include "app/desktop/message_boxes.h"
 
-QMessageBox::StandardButton ShowMessage(QWidget* owner, const QString& text, const QString& title,
-                                        QMessageBox::StandardButtons buttons)
+QMessageBox::StandardButton ShowMessageBox(QWidget* owner, const QString& text, const QString& title,
+                                           QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(QMessageBox::NoIcon, title, text, buttons, owner);
     box.setTextFormat(Qt::PlainText);

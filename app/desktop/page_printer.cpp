@@ -1,6 +1,7 @@
 #include "app/desktop/page_printer.h"
 
 #include "app/desktop/file_bytes.h"
+#include "view/twips.h"
 
 #include <QBuffer>
 #include <QFontMetricsF>
@@ -9,8 +10,9 @@
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
-constexpr double TwipsPerPoint = 20;
+using view::TwipsPerInch;
+using view::TwipsPerPoint;
+
 constexpr double BoxPen = TwipsPerPoint / 2;
 
 QString ToQString(std::u16string_view text)

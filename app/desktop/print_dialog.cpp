@@ -2,7 +2,7 @@
 
 #include "app/desktop/file_dialog.h"
 #include "app/desktop/folders.h"
-#include "app/program.h"
+#include "app/desktop/program.h"
 
 #include <QPrintDialog>
 #include <QPrinter>

@@ -63,7 +63,7 @@ void PuzzleWorkspace::WriteWord()
 {
     const auto move = [this] { CurrentDirection(); };
     const auto write = [this](char letter) { return PuzzleArray(CurrentRow, CurrentColumn) = letter, true; };
-    WalkWord(CurrentWord, LetterIndex, move, write);
+    LetterIndex = WalkWord(CurrentWord, move, write);
 }
 
 } // namespace generator
