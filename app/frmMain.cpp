@@ -98,7 +98,7 @@ void frmMain::BuildToolbar()
 void frmMain::BuildTitle()
 {
     lblBigTitle = new TitleLabel(Client);
-    lblBigTitle->setText(program::NewPuzzle);
+    lblBigTitle->SetTitle(program::NewPuzzle);
     lblBigTitle->setFont(looks::BoldItalic(looks::Serif, 26.25));
     lblBigTitle->setAlignment(Qt::AlignCenter);
     lblBigTitle->setFixedHeight(lblBigTitle->sizeHint().height() * 5 / 4); // room for two lines in a smaller font

@@ -93,7 +93,7 @@ void frmMain::Form_Unload()
 
 void frmMain::txtTitle_Change()
 {
-    lblBigTitle->setText(txtTitle->text());
+    lblBigTitle->SetTitle(txtTitle->text());
 }
 
 /// The first click empties a box that holds no title of its own.

@@ -78,7 +78,7 @@ void frmPuzzle::BuildToolbar()
 /// There is room for a second line above the words when the title needs one.
 void frmPuzzle::SetTitle(const QString& title)
 {
-    lblBigTitle->setText(title);
+    lblBigTitle->SetTitle(title);
     const bool fits = lblBigTitle->fontMetrics().horizontalAdvance(title) <= looks::ToPixels(*this, TitleWidth);
     looks::Place(*lblBigTitle, 120, 720, TitleWidth, fits ? TitleHeight : 2 * TitleHeight);
 }

@@ -1,6 +1,7 @@
 #include "app/controls/title_label.h"
 
 #include "app/controls/looks.h"
+#include "document/character_set.h"
 
 #include <QPainter>
 
@@ -18,6 +19,18 @@ bool Fits(QPainter& painter, const QRect& room, const QString& text, const QText
 
 } // namespace
 
+TitleLabel::TitleLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void TitleLabel::SetTitle(const QString& title)
+{
+    setText(title);
+    setToolTip(title.size() > document::MaxTitleLength ? looks::ToolTip(title) : QString());
+}
+
 void TitleLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -31,6 +44,5 @@ void TitleLabel::paintEvent(QPaintEvent* /*event*/)
     }
     while (!shown.isEmpty() && !Fits(painter, rect(), shown, lines))
         shown = shown.chopped(shown.endsWith(u'…') ? 2 : 1) + u'…';
-    setToolTip(shown == text() ? QString() : looks::ToolTip(text()));
     painter.drawText(rect(), shown, lines);
 }

@@ -8,7 +8,9 @@ class TitleLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit TitleLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+    explicit TitleLabel(QWidget* parent);
+
+    void SetTitle(const QString& title);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
