@@ -58,10 +58,7 @@ void frmMain::mnuNewPuzzle_Click()
         ResetAll(true);
 }
 
-void frmMain::mnuExit_Click()
-{
-    Terminate();
-}
+void frmMain::mnuExit_Click() { Terminate(); }
 
 /// Closes the windows, the last one opened first; the user may keep the main window open.
 void frmMain::Terminate()
@@ -79,10 +76,7 @@ void frmMain::closeEvent(QCloseEvent* event)
         Form_Unload();
 }
 
-bool frmMain::Form_QueryUnload()
-{
-    return !EntersList && !CheckForSave();
-}
+bool frmMain::Form_QueryUnload() { return !EntersList && !CheckForSave(); }
 
 void frmMain::Form_Unload()
 {
@@ -91,10 +85,7 @@ void frmMain::Form_Unload()
     Terminate();
 }
 
-void frmMain::txtTitle_Change()
-{
-    lblBigTitle->SetTitle(txtTitle->text());
-}
+void frmMain::txtTitle_Change() { lblBigTitle->SetTitle(txtTitle->text()); }
 
 /// The first click empties a box that holds no title of its own.
 void frmMain::txtTitle_Click()
@@ -130,7 +121,4 @@ void frmMain::LeaveTitleBox()
         txtTitle_LostFocus();
 }
 
-void frmMain::ShowTitleInCaption()
-{
-    looks::SetCaption(*this, program::Name + '-' + txtTitle->text());
-}
+void frmMain::ShowTitleInCaption() { looks::SetCaption(*this, program::Name + '-' + txtTitle->text()); }

@@ -35,10 +35,7 @@ QString frmMain::AskForFile(QFileDialog::AcceptMode mode, const QString& title,
     return path;
 }
 
-void frmMain::mnuSave_Click()
-{
-    SaveFile(DocFileName);
-}
+void frmMain::mnuSave_Click() { SaveFile(DocFileName); }
 
 void frmMain::mnuSaveAs_Click()
 {

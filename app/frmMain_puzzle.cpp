@@ -88,10 +88,7 @@ void frmMain::ComeBack()
             ->deleteLater(); // it must outlive a dialog above it, which the session's end may have left open
 }
 
-void frmMain::DrawToPictureBox()
-{
-    Puzzle->pctPuzzle->Write(view::LayOutGrid(Workspace, frmPuzzle::SurfaceWidth));
-}
+void frmMain::DrawToPictureBox() { Puzzle->pctPuzzle->Write(view::LayOutGrid(Workspace, frmPuzzle::SurfaceWidth)); }
 
 /// Prints the puzzle on one page. It ends quietly when the user cancels or the printer fails.
 void frmMain::Print_Puzzle()

@@ -7,16 +7,10 @@
 
 #include <algorithm>
 
-void frmMain::cmdEnter_Click()
-{
-    EnterWord();
-}
+void frmMain::cmdEnter_Click() { EnterWord(); }
 
 /// False when the list is full.
-bool frmMain::EnterWord()
-{
-    return EditMode ? ConfirmEdit() : AddWord();
-}
+bool frmMain::EnterWord() { return EditMode ? ConfirmEdit() : AddWord(); }
 
 /// The first word of a list is in the word box. Enters all words but the last, which stays there. While a question
 /// about one of them is open, the window does not close, or the words after it would be lost.

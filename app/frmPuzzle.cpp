@@ -101,10 +101,7 @@ void frmPuzzle::PuzzleToolbar_ButtonClick(int index)
         close();
 }
 
-void frmPuzzle::cmdPrint_Click()
-{
-    emit PrintRequested();
-}
+void frmPuzzle::cmdPrint_Click() { emit PrintRequested(); }
 
 /// Closes once, even when a busy program finds two requests to close.
 void frmPuzzle::closeEvent(QCloseEvent* /*event*/)

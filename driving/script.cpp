@@ -134,10 +134,7 @@ Script::Steps Script::AnswerSteps(const QString& about)
     };
 }
 
-void Script::Click(const char* control)
-{
-    QTest::mouseClick(&Control<QWidget>(control), Qt::LeftButton);
-}
+void Script::Click(const char* control) { QTest::mouseClick(&Control<QWidget>(control), Qt::LeftButton); }
 
 void Script::Type(const char* box, const QString& text)
 {

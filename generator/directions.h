@@ -27,9 +27,6 @@ inline constexpr std::array<Step, DirectionCount + 1> Directions{{
 }};
 
 /// Returns the step of a direction 1..DirectionCount; not checked.
-inline const Step& StepOf(int direction)
-{
-    return Directions[static_cast<std::size_t>(direction)];
-}
+inline const Step& StepOf(int direction) { return Directions[static_cast<std::size_t>(direction)]; }
 
 } // namespace generator

@@ -20,10 +20,7 @@ std::uint64_t Mix(std::uint64_t bits)
 
 RandomSource::RandomSource(Clock clock) : ReadClock(std::move(clock)), State(Mix(ReadClock())) {}
 
-void RandomSource::Reseed()
-{
-    State = Mix((State ^ ReadClock()) + Increment);
-}
+void RandomSource::Reseed() { State = Mix((State ^ ReadClock()) + Increment); }
 
 int RandomSource::DrawBelow(int count)
 {

@@ -174,9 +174,7 @@ private:
     static constexpr gid_t Group = 9; // Nobody's second
 
     /// Returns who may do what with the file, its links and attributes; and which file it is.
-    std::pair<QByteArrayList, ino_t> Access() const
-    {
-        struct stat there {};
+    std::pair<QByteArrayList, ino_t> Access() const { struct stat there { };
         stat(qPrintable(File), &there);
         QByteArrayList access;
         for (const auto number : {there.st_uid, there.st_gid, there.st_mode, static_cast<uid_t>(there.st_nlink)})

@@ -8,10 +8,7 @@
 
 namespace looks {
 
-double ToPixels(const QWidget& widget, double twips)
-{
-    return twips * widget.logicalDpiX() / view::TwipsPerInch;
-}
+double ToPixels(const QWidget& widget, double twips) { return twips * widget.logicalDpiX() / view::TwipsPerInch; }
 
 QSize SizeInPixels(const QWidget& widget, int width, int height)
 {
@@ -24,10 +21,7 @@ void Place(QWidget& widget, int x, int y, int width, int height)
     widget.setGeometry({{corner.width(), corner.height()}, SizeInPixels(widget, width, height)});
 }
 
-void SetCaption(QWidget& window, QString text)
-{
-    window.setWindowTitle(text.replace("[*]", "[*][*]"));
-}
+void SetCaption(QWidget& window, QString text) { window.setWindowTitle(text.replace("[*]", "[*][*]")); }
 
 QString ToolTip(QString text)
 {

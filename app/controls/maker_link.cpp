@@ -28,10 +28,7 @@ MakerLink::MakerLink(double points, QWidget* parent) : QLabel(program::Maker, pa
     setFocusPolicy(Qt::TabFocus);
 }
 
-void MakerLink::OpenMakersPage()
-{
-    QDesktopServices::openUrl(QUrl(program::MakerAddress));
-}
+void MakerLink::OpenMakersPage() { QDesktopServices::openUrl(QUrl(program::MakerAddress)); }
 
 void MakerLink::mouseReleaseEvent(QMouseEvent* event)
 {

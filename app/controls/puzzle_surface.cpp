@@ -7,10 +7,7 @@
 
 #include <utility>
 
-PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent)
-{
-    setFont(looks::Font(looks::Monospaced, 8.25));
-}
+PuzzleSurface::PuzzleSurface(QWidget* parent) : QWidget(parent) { setFont(looks::Font(looks::Monospaced, 8.25)); }
 
 void PuzzleSurface::Write(std::vector<view::DrawnLetter> letters)
 {

@@ -66,10 +66,7 @@ int WordList::SelectedPosition() const
     return selected.isEmpty() ? -1 : selected.first().row();
 }
 
-int WordList::CurrentPosition() const
-{
-    return currentRow() < 0 ? Current.row() : currentRow();
-}
+int WordList::CurrentPosition() const { return currentRow() < 0 ? Current.row() : currentRow(); }
 
 QSize WordList::minimumSizeHint() const
 {

@@ -10,10 +10,7 @@
 
 namespace {
 
-bool FolderExists(const QString& path)
-{
-    return QFileInfo(path).absoluteDir().exists();
-}
+bool FolderExists(const QString& path) { return QFileInfo(path).absoluteDir().exists(); }
 
 } // namespace
 

@@ -9,10 +9,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-const wchar_t* Wide(const QString& text)
-{
-    return reinterpret_cast<const wchar_t*>(text.utf16());
-}
+const wchar_t* Wide(const QString& text) { return reinterpret_cast<const wchar_t*>(text.utf16()); }
 
 void SetFilters(IFileDialog& dialog, const QList<FileDialog::Filter>& filters)
 {
