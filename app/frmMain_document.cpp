@@ -9,8 +9,8 @@
 
 #include <utility>
 
-/// Offers to save unsaved changes. True when the user cancels or is still being asked: the session may end several
-/// times meanwhile. Where that has closed the question, it asks again.
+/// Offers to save unsaved changes. True when the user cancels, and while the question is still open, because the
+/// session may ask several times. If the session has closed the question, it is asked again.
 bool frmMain::CheckForSave()
 {
     if (Saved)

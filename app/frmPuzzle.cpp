@@ -103,7 +103,7 @@ void frmPuzzle::PuzzleToolbar_ButtonClick(int index)
 
 void frmPuzzle::cmdPrint_Click() { emit PrintRequested(); }
 
-/// Closes once, even when a busy program finds two requests to close.
+/// Reports the close once, even when two requests were waiting.
 void frmPuzzle::closeEvent(QCloseEvent* /*event*/)
 {
     if (isVisible())

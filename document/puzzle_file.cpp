@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view OlderMarker = u"Glyphgrove2.1";
 
 /// Reads the field at `position` and moves `position` past it. A field ends at a comma or at a line end (LF, CR LF or
-/// CR). Returns std::nullopt, once and for all, when the bytes end before the field does.
+/// CR). Returns std::nullopt, and again on every later call, when the bytes end before the field does.
 std::optional<std::u16string> NextField(std::string_view bytes, std::size_t& position)
 {
     constexpr std::string_view FieldEnds = ",\r\n";

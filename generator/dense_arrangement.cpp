@@ -30,7 +30,8 @@ std::vector<int> ShuffledWords(RandomSource& random)
 /// cells in one line, so the bits common to both masks are the cells that it would share.
 class PuzzleWorkspace::OccupiedLines {
 public:
-    /// Whether `letters`, written from the cell in the direction of `step`, share at most one cell, and it matches.
+    /// Whether `letters`, written from the cell in the direction of `step`, share at most one cell with
+    /// the grid, and only one that holds the same letter.
     bool Admit(const std::string& letters, Step step, int row, int column, const PuzzleWorkspace& workspace)
     {
         const int first = BitOf(step, row, column);

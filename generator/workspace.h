@@ -41,11 +41,11 @@ public:
     int CurrentColumn = 0;
     bool WordFits = true; ///< result of the last TestWordForFit
 
-    int PseudoWord = 0; ///< 1..40, the word that the trial without writing checks
-    int PseudoRow = 0;  ///< the cursor of that trial
+    int PseudoWord = 0; ///< 1..40, the word that PseudoLoadPuzzleArray tries
+    int PseudoRow = 0;  ///< its cursor
     int PseudoColumn = 0;
     int PseudoLetter = 0;
-    bool PseudoFits = false; ///< result of the last trial
+    bool PseudoFits = false; ///< its result
 
     int WordIndex = 0;   ///< 1..40, the word slot being placed
     int LetterIndex = 0; ///< 1..20, the letter slot being written; 21 after a word of 20
@@ -74,7 +74,8 @@ public:
     void InsertionPointAndDirection();
     void RandomDirectionSelector();
     void RandomStartingPoint();
-    /// Sets WordFits: whether WordLength letters from the cursor in Direction leave one more cell before the border.
+    /// Sets WordFits: whether WordLength letters from the cursor in Direction stay inside the grid, with one
+    /// cell to spare.
     void TestWordForFit();
     void CurrentDirection();
     void PseudoCurrentDirection();

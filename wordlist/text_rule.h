@@ -18,7 +18,7 @@ struct TextRule {
 /// Returns a text that is no list as it stands.
 std::vector<std::u16string> WordsOfList(std::u16string_view text);
 
-/// The rule of the word box: A to Z, a to z and spaces, but no space at the start.
+/// The rule of the word box: A to Z, a to z and spaces, but no space in an empty box.
 bool TakesInWord(char16_t character, bool boxIsEmpty);
 
 /// Returns the part of `text` that a box accepts when it shows `shown` characters, `selected` of them selected: the

@@ -10,8 +10,8 @@
 
 namespace {
 
-/// A client area or a toolbar without what a screen reader should skip: hidden controls (every toolbar has a nameless
-/// button), the focus ring, the trademark sign.
+/// Hides from screen readers what they should skip in a client area or toolbar: hidden controls (every toolbar has a
+/// nameless button), the focus ring, the trademark sign.
 class SeenControls : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;

@@ -44,7 +44,8 @@ private:
     qsizetype Replaced = 0;
 };
 
-/// The line edit undoes an invalid edit. A text changed here replaces its own, without a history.
+/// The line edit undoes an invalid edit. When the text is changed here, the line edit takes it over and clears its
+/// undo history.
 QValidator::State TextValidator::validate(QString& text, int& cursor) const
 {
     // The program's own texts leave nothing to undo, an edit always does. Only undo leaves something to redo.

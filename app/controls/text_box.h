@@ -8,7 +8,7 @@ class TextValidator;
 
 /// A text box that takes from the user only what its rule admits, whether typed, composed, pasted or dropped.
 /// Discarded text changes nothing, neither selection nor undo; but a composition deletes the selection when it
-/// begins. After a paste that loses a part there is nothing to undo. The rule applies neither to texts that the
+/// begins. A paste that is taken only in part clears the undo history. The rule applies neither to texts that the
 /// program sets nor to undo.
 class TextBox : public QLineEdit {
     Q_OBJECT
@@ -28,7 +28,8 @@ protected:
     TextValidator* Validator;
 };
 
-/// The box for words. It discards control-key combinations, like any character that no word has. Users paste with the
+/// The box for words. It discards control-key combinations, like any other character that a word cannot
+/// contain. Users paste with the
 /// context menu.
 class WordBox : public TextBox {
     Q_OBJECT

@@ -75,7 +75,8 @@ QSize WordList::minimumSizeHint() const
     return {Columns * column + border, Rows * (fontMetrics().height() + 3) + 1 + border};
 }
 
-/// Only a file holds more words than the columns. A bar shown "as needed" would reserve its room all the time.
+/// Only a file can bring more words than the columns hold. A bar shown "as needed" would reserve its room all the
+/// time.
 void WordList::updateGeometries()
 {
     setHorizontalScrollBarPolicy(count() > Columns * Rows ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);

@@ -29,7 +29,8 @@ bool Overwrite(QFile& file, QByteArrayView bytes, qint64 size)
     return file.seek(0) && file.write(bytes.data(), bytes.size()) == bytes.size() && file.resize(size);
 }
 
-/// Overwrites an existing file. If the new contents find no room, the old ones go back: they still have theirs.
+/// Overwrites an existing file. If there is no room for the new contents, the old ones are put back: their
+/// space is still allocated.
 bool WriteInPlace(const QString& path, QByteArrayView bytes)
 {
     QFile file(path);

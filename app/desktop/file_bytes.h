@@ -13,9 +13,9 @@ namespace file_bytes {
 std::string Read(const QString& path, std::size_t most);
 
 /// Saves `bytes` at `path`, or where a link there leads. The new file is written beside the old one and replaces it
-/// when complete. Where the folder does not allow that, or who may read and write the file, its attributes or its
-/// other names would change, the old file is overwritten. False on failure: the old file is then unchanged to the
-/// byte.
+/// when complete. The old file is overwritten where the folder does not allow that, or where it would change who may
+/// read and write the file, its attributes or its other names. False on failure: the old file is then unchanged to
+/// the byte.
 bool Save(const QString& path, QByteArrayView bytes);
 
 } // namespace file_bytes

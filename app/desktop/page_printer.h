@@ -5,7 +5,6 @@
 #include <QPrinter>
 
 /// Prints a puzzle's page, upright and on the whole sheet, on `printer` or into its PDF file. The page is laid out
-/// before the printer sees any of it, so half a page never reaches paper. False when the printer fails; an earlier
-/// PDF file is then unchanged.
+/// before printing starts. False when the printer fails; an earlier PDF file is then unchanged.
 bool PrintPage(QPrinter& printer, const QString& title, std::span<const std::u16string> words,
                const generator::PuzzleWorkspace& workspace);

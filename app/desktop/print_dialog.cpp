@@ -13,7 +13,7 @@ namespace {
 
 const QString DialogName = "PrinterDialog";
 
-/// Named after the document, without the characters that some desktop's file names cannot hold.
+/// Named after the document, without the characters that file names cannot hold on every system.
 QString ProposedPdf(const QString& title)
 {
     static const QRegularExpression forbidden(R"([\x01-\x1f/\\:*?"<>|])");
