@@ -6,8 +6,8 @@
 
 int main(int argc, char* argv[])
 {
-    PrepareApplication();
     const QApplication application(argc, argv);
+    PrepareApplication();
     QApplication::setApplicationName(program::Name);
     QGuiApplication::setDesktopFileName("example.tallowick.Glyphgrove"); // Wayland finds the icon by it
     QIcon icon;

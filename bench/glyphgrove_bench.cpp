@@ -71,8 +71,8 @@ BENCHMARK(PrintPuzzle)->Unit(benchmark::kMillisecond);
 int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    driving::PrepareDriving();
     const QApplication application(argc, argv);
+    driving::PrepareDriving();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

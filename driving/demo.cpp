@@ -21,8 +21,8 @@ int main(int argc, char* argv[])
         std::cerr << "usage: glyphgrove_demo EXAMPLE.pux FOLDER\n";
         return 2;
     }
-    driving::PrepareDriving();
     const QApplication application(argc, argv);
+    driving::PrepareDriving();
     driving::Script person;
     const QDir folder(argv[2]);
     const QString mainPicture = folder.absoluteFilePath("main-window.png");

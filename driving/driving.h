@@ -14,7 +14,7 @@
 /// Drives the program's real windows: finds controls by name and answers modal boxes and dialogs.
 namespace driving {
 
-/// Makes the run independent of the settings file and of native dialogs. Call it before the application exists.
+/// Makes the run independent of the settings file and of native dialogs. Call it once the application exists.
 void PrepareDriving();
 
 /// Returns the descendant of `root` with this name. If there is none, lists the existing names and aborts.

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 /// Prepares what the whole program shares: the toolkit's own style and dialogs where the desktop's would change
-/// colours or names, and no settings on disk. Call it before the application exists.
+/// colours or names, and no settings on disk. Call it once the application exists: that reads the user's style.
 void PrepareApplication();
 
 /// Returns a function that runs `command`, but not while a dialog is open: keys pressed before it opened and
