@@ -1,5 +1,7 @@
 #include "app/desktop/file_dialog_windows.h"
 
+#include <QDialog>
+
 #include <shobjidl.h>
 
 #include <vector>
@@ -58,7 +60,14 @@ QString AskWindowsForFile(const FileDialog::Question& question, QWidget& owner)
     SetFolder(*dialog.Get(), proposed.isAbsolute() ? proposed.path() : question.folder.path());
     const QString name = proposed.isAbsolute() ? proposed.fileName() : question.name;
     dialog->SetFileName(Wide(name));
-    const HRESULT answer = dialog->Show(reinterpret_cast<HWND>(owner.window()->winId()));
+    // The toolkit gets a dialog of its own: it closes menus, and no window below takes commands or closes.
+    QDialog standIn(&owner);
+    standIn.setAttribute(Qt::WA_DontShowOnScreen);
+    standIn.setModal(true);
+    standIn.show();
+    const auto window = reinterpret_cast<HWND>(owner.window()->winId());
+    EnableWindow(window, TRUE); // Windows disables it again, and gives the focus back only to what it disabled itself
+    const HRESULT answer = dialog->Show(window);
     dialog->ClearClientData(); // the folder, size and position that Windows has just stored for the next run
     return answer == S_OK ? ChosenPath(*dialog.Get()) : QString();
 }
