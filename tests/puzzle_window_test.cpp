@@ -133,11 +133,14 @@ private slots:
         const QWidget& puzzle = *ShownWindow("frmPuzzle");
         for (const auto& [name, place] : {std::pair("pctPuzzle", QRect(320, 16, 521, 521)),
                                           {"lblBigTitle", {8, 48, 289, 25}},
-                                          {"lblWords0", {8, 104, 27, 16}},
-                                          {"lblWords19", {8, 408, 27, 16}},
-                                          {"lblWords20", {168, 104, 27, 16}},
-                                          {"lblWords39", {168, 408, 27, 16}}})
-            QCOMPARE(Find<QWidget>(puzzle, name).geometry(), place);
+                                          {"lblWords0", {8, 104, 0, 16}},
+                                          {"lblWords19", {8, 408, 0, 16}},
+                                          {"lblWords20", {168, 104, 0, 16}},
+                                          {"lblWords39", {168, 408, 0, 16}}}) {
+            QRect there = Find<QWidget>(puzzle, name).geometry();
+            there.setWidth(place.width() == 0 ? 0 : there.width()); // a word's width depends on the desktop's fonts
+            QCOMPARE(there, place);
+        }
         QCOMPARE(Control<QWidget>("client").size(), QSize(686, 428));
         Answering.Expect(Dismiss());
         Find<QPushButton>(puzzle, "cmdPrint").click(); // hidden, but it works
