@@ -4,9 +4,7 @@
 #include "app/controls/toolbars.h"
 #include "app/desktop/application.h"
 #include "app/desktop/program.h"
-#ifdef Q_OS_WIN
-#include "app/desktop/window_border_windows.h"
-#endif
+#include "app/desktop/window_border.h"
 
 #include <QCloseEvent>
 
@@ -33,9 +31,7 @@ frmPuzzle::frmPuzzle(QScreen* screen)
     BuildWordLabels();
     BuildToolbar();
     FixClient(looks::SizeInPixels(*this, 12900, 8295));
-#ifdef Q_OS_WIN
     FixBorder(*this);
-#endif
     ScrollWithArrows();
 }
 

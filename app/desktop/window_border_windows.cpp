@@ -1,6 +1,4 @@
-#include "app/desktop/window_border_windows.h"
-
-#include <QWidget>
+#include "app/desktop/window_border.h"
 
 #include <windows.h>
 
