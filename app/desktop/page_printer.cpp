@@ -15,11 +15,6 @@ using view::TwipsPerPoint;
 
 constexpr double BoxPen = TwipsPerPoint / 2;
 
-QString ToQString(std::u16string_view text)
-{
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// One pixel of the font is one twip, so its metrics do not depend on the printer's resolution.
 QFont ToQFont(const view::PageFont& font)
 {
@@ -51,7 +46,7 @@ bool Draw(const view::Page& page, double scale, QPaintDevice& device)
             painter.setFont(ToQFont(font));
             ascent = QFontMetricsF(painter.font()).ascent();
         }
-        painter.drawText(QPointF(text.x, text.y + ascent), ToQString(text.text));
+        painter.drawText(QPointF(text.x, text.y + ascent), QString::fromStdU16String(text.text));
     }
     return painter.end();
 }
@@ -83,7 +78,7 @@ bool PrintPage(QPrinter& printer, const QString& title, std::span<const std::u16
     const view::PageMetrics metrics{
         sheet.width() / scale, [](const view::PageFont& font) { return ToQFont(font).pixelSize() / TwipsPerPoint; },
         [](const view::PageFont& font, std::u16string_view text) {
-            return QFontMetricsF(ToQFont(font)).horizontalAdvance(ToQString(text));
+            return QFontMetricsF(ToQFont(font)).horizontalAdvance(QStringView(text).toString());
         }};
     const view::Page page = view::LayOutPage(metrics, title.toStdU16String(), words, workspace);
     if (printer.outputFormat() == QPrinter::PdfFormat)
