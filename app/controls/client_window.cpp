@@ -48,7 +48,8 @@ void ClientWindow::ScrollWithArrows()
           {Qt::Key_Right, Area->horizontalScrollBar(), QScrollBar::SliderSingleStepAdd},
           {Qt::Key_Up, Area->verticalScrollBar(), QScrollBar::SliderSingleStepSub},
           {Qt::Key_Down, Area->verticalScrollBar(), QScrollBar::SliderSingleStepAdd}})
-        connect(new QShortcut(key, this), &QShortcut::activated, bar, [=] { bar->triggerAction(action); });
+        connect(new QShortcut(key, this), &QShortcut::activated, bar,
+                [bar = bar, action = action] { bar->triggerAction(action); });
 }
 
 /// Gives the window as much of the screen as it needs, unless the user or the window manager has chosen another size
