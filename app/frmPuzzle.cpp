@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int ToolbarHeight = 360;
 constexpr int TitleWidth = 4335;
 constexpr int TitleHeight = 375;
 constexpr int WordHeight = 240;
@@ -67,7 +66,7 @@ void frmPuzzle::BuildToolbar()
     QToolBar* toolbar =
         MakeToolbar("PuzzleToolbar", tr("Puzzle"), {{"Print", tr("Print Puzzle")}, {"Back", tr("Go Back")}}, *Client,
                     [this](int index) { PuzzleToolbar_ButtonClick(index); });
-    looks::Place(*toolbar, 0, 0, 12900, ToolbarHeight);
+    looks::Place(*toolbar, 0, 0, 12900, 360);
     toolbar->actions().first()->setShortcuts(QKeySequence::Print);
     toolbar->actions().last()->setShortcuts(QKeySequence::keyBindings(QKeySequence::Back) +
                                             QKeySequence::keyBindings(QKeySequence::Close));

@@ -41,10 +41,7 @@ private:
 
 class PressableLink : public QAccessibleWidget {
 public:
-    explicit PressableLink(MakerLink* link)
-        : QAccessibleWidget(link, QAccessible::Link, QObject::tr("%1 website").arg(link->text()))
-    {
-    }
+    using QAccessibleWidget::QAccessibleWidget;
 
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString& action) override
@@ -63,7 +60,7 @@ QAccessibleInterface* Describe(const QString& /*className*/, QObject* object)
     if (qobject_cast<PuzzleSurface*>(object->parent()) != nullptr)
         return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::ListItem);
     if (auto* link = qobject_cast<MakerLink*>(object))
-        return new PressableLink(link);
+        return new PressableLink(link, QAccessible::Link);
     if (auto* toolbar = qobject_cast<QToolBar*>(object))
         return new SeenControls(toolbar, QAccessible::ToolBar);
     if (object->objectName() == "client")

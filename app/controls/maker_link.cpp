@@ -24,6 +24,7 @@ void LookLikeTheMaker(QLabel& label, const QFont& font)
 MakerLink::MakerLink(double points, QWidget* parent) : QLabel(program::Maker, parent)
 {
     LookLikeTheMaker(*this, looks::BoldItalic(looks::Serif, points));
+    setAccessibleName(tr("%1 website").arg(program::Maker));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
 }
