@@ -1,5 +1,9 @@
 #include "app/desktop/application.h"
 
+#ifdef Q_OS_WIN
+#include "app/desktop/whole_outlines_windows.h"
+#endif
+
 #include <QDialog>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -7,7 +11,9 @@
 
 void PrepareApplication()
 {
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+    QApplication::setStyle(NewWholeOutlines());
+#else
     QApplication::setStyle("Fusion"); // others paint buttons in colours that do not suit the windows' own
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // others list recent files, add suffixes, cut labels
 #endif
