@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace {
 
@@ -10,13 +11,17 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override
     {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        if (element != PE_Frame || frame == nullptr)
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
         const QTransform toPixels = painter->deviceTransform();
-        QPointF shift;
-        if (element == PE_Frame || element == PE_FrameLineEdit)
-            shift = toPixels.inverted().map(toPixels.map(QPointF()).toPoint().toPointF());
-        painter->translate(shift);
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        painter->translate(-shift);
+        QStyleOptionFrame whole(*frame);
+        const QRectF exact = toPixels.mapRect(QRectF(frame->rect));
+        whole.rect = QRect(exact.topLeft().toPoint(), exact.bottomRight().toPoint() - QPoint(1, 1));
+        painter->save();
+        painter->setTransform(toPixels.inverted(), true);
+        QProxyStyle::drawPrimitive(element, &whole, painter, widget);
+        painter->restore();
     }
 };
 

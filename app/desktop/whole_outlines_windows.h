@@ -2,6 +2,6 @@
 
 class QStyle;
 
-/// Returns the desktop's style with whole outlines: at scales like 125 % a control may begin between two pixels, and
-/// its outline would be cut off.
+/// Returns the desktop's style with whole frames: at scales like 125 % a list may begin between two pixels, and one
+/// of its outlines would be cut off.
 QStyle* NewWholeOutlines();
