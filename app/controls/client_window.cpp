@@ -3,12 +3,14 @@
 #include "app/controls/focus_ring.h"
 #include "app/controls/looks.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
+#include <QTimer>
 #include <QToolButton>
 #include <QWindow>
 
@@ -64,7 +66,9 @@ void ClientWindow::FitToScreen()
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         whole += QSize(bar, bar);
     }
-    const bool chosen = Fitting.isValid() && size() != Fitting && size() == size().boundedTo(room);
+    const QSize framed = frameGeometry().size();
+    const bool fits = framed == framed.boundedTo(screen()->availableSize());
+    const bool chosen = Fitting.isValid() && size() != Fitting && fits;
     Fitting = whole.boundedTo(room);
     if (chosen || isMaximized() || isFullScreen())
         return;
@@ -88,8 +92,18 @@ void ClientWindow::ReturnToScreen()
     const QPoint last = room.bottomRight() - QPoint(width() - 1, height() - 1);
     const QPoint place(std::max(std::min(corner.x(), last.x()), room.x()),
                        std::max(std::min(corner.y(), last.y()), room.y()));
-    if (place != corner && !isMaximized() && !isFullScreen())
+    if (!screen()->availableGeometry().contains(frameGeometry()) && !isMaximized() && !isFullScreen())
         setGeometry({place, size()});
+    QTimer::singleShot(500, this, &ClientWindow::AcceptSize);
+}
+
+/// When a tiling window manager keeps its size, the toolkit may leave the widgets with the size that they asked for.
+void ClientWindow::AcceptSize()
+{
+    if (!isVisible() || windowHandle()->size() == size())
+        return;
+    QResizeEvent real(windowHandle()->size(), size());
+    QGuiApplication::sendEvent(windowHandle(), &real);
 }
 
 void ClientWindow::showEvent(QShowEvent* /*event*/)

@@ -29,6 +29,7 @@ private:
     void FitToScreen();
     void FixSize();
     void ReturnToScreen();
+    void AcceptSize();
 
     QScrollArea* Area;
     QSize Fitting; ///< of the window without its frame: as large as client area and screen allow
