@@ -13,9 +13,9 @@ void PuzzleSurface::Write(std::vector<view::DrawnLetter> letters)
 {
     Letters = std::move(letters);
     QWidget* row = nullptr;
-    double y = 0; // of no row
+    double y = 0;
     for (const view::DrawnLetter& letter : Letters) {
-        if (std::exchange(y, letter.y) != letter.y) {
+        if (std::exchange(y, letter.y) != letter.y || row == nullptr) {
             row = new QWidget(this);
             row->setGeometry(0, qRound(looks::ToPixels(*this, letter.y)), width(),
                              qRound(looks::ToPixels(*this, Letters.front().y)));

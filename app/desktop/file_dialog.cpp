@@ -56,5 +56,5 @@ void FileDialog::accept()
              ShowMessageBox(this,
                             tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName()),
                             windowTitle(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes)
-        QDialog::accept();
+        done(Accepted);
 }
