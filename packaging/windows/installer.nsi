@@ -90,8 +90,7 @@ SectionEnd
     Delete "${EXAMPLES}\${NAME}"
 !macroend
 
-; What was installed and nothing else: the user may keep files of his own there, and other programs may be listed. What
-; is needed to try again goes last.
+; Deletes only what was installed: users may keep files of their own there. Deletes last what a second try needs.
 Section Uninstall
     again:
     ClearErrors
