@@ -59,22 +59,22 @@ void ClientWindow::ScrollWithArrows()
 void ClientWindow::FitToScreen()
 {
     connect(screen(), &QScreen::availableGeometryChanged, this, &ClientWindow::ReturnToScreen, Qt::UniqueConnection);
-    const QSize room = screen()->availableSize().shrunkBy(UsualFrame);
+    const QSize room = screen()->availableSize().shrunkBy(Frame());
     const int menu = menuWidget() != nullptr ? menuWidget()->heightForWidth(Client->width()) : 0;
     QSize whole = Client->size() + QSize(0, menu);
     if (whole != whole.boundedTo(room)) {
         const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         whole += QSize(bar, bar);
     }
-    const QSize framed = frameGeometry().size();
-    const bool fits = framed == framed.boundedTo(screen()->availableSize());
-    const bool chosen = Fitting.isValid() && size() != Fitting && fits;
+    const bool chosen = Fitting.isValid() && size() != Fitting && size() == size().boundedTo(room);
     Fitting = whole.boundedTo(room);
     if (chosen || isMaximized() || isFullScreen())
         return;
     FixSize();
     resize(Fitting);
 }
+
+QMargins ClientWindow::Frame() const { return isVisible() ? windowHandle()->frameMargins() : UsualFrame; }
 
 /// Tiling window managers let a window of fixed size float.
 void ClientWindow::FixSize()
@@ -87,12 +87,12 @@ void ClientWindow::FixSize()
 void ClientWindow::ReturnToScreen()
 {
     FitToScreen();
-    const QRect room = screen()->availableGeometry().marginsRemoved(UsualFrame);
+    const QRect room = screen()->availableGeometry().marginsRemoved(Frame());
     const QPoint corner = geometry().topLeft();
     const QPoint last = room.bottomRight() - QPoint(width() - 1, height() - 1);
     const QPoint place(std::max(std::min(corner.x(), last.x()), room.x()),
                        std::max(std::min(corner.y(), last.y()), room.y()));
-    if (!screen()->availableGeometry().contains(frameGeometry()) && !isMaximized() && !isFullScreen())
+    if (place != corner && !isMaximized() && !isFullScreen())
         setGeometry({place, size()});
     QTimer::singleShot(500, this, &ClientWindow::AcceptSize);
 }

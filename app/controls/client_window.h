@@ -27,6 +27,7 @@ protected:
 
 private:
     void FitToScreen();
+    QMargins Frame() const; ///< around the window; a usual one before it is shown
     void FixSize();
     void ReturnToScreen();
     void AcceptSize();
