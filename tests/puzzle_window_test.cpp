@@ -175,7 +175,7 @@ private slots:
             box.reject();
         });
         Run("menu:ha word:CAT type:DOG menu:fn");
-        QCOMPARE(State().Line(), "G - NP | NP | CAT | AC | 1 @0 ?0 | DOG");
+        QCOMPARE(State().Line(), "G - NP | NP | CAT | AC | 1 @0 >0 | DOG");
         Run("no create");
         QCOMPARE(Boxes(), "frmAbout save? save?");
         QWidget* puzzle = ShownWindow("frmPuzzle");

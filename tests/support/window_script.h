@@ -33,16 +33,14 @@ struct Seen {
 
     bool operator==(const Seen& other) const = default;
 
-    /// One line: caption, big title, words (their number if more than five); S, A, C, E and M if Save, Save As,
-    /// Create Puzzle, the edit buttons and edit mode are on; the count, "@" with the selected and "?" with the
-    /// current entry; the text of the word box, the files, and the windows if not just the main one.
+    /// One line, as tests/data/scripts.txt explains.
     QString Line() const
     {
         QStringList line{Caption, Title, Words.size() <= 5 ? Words.join(',') : QString("%1 words").arg(Words.size())};
         line += QString(Save ? "S" : "") + (SaveAs ? "A" : "") + (Create ? "C" : "") + (EditButtons ? "E" : "") +
                 (EditMode ? "M" : "");
         line += Count + (Selected < 0 ? "" : " @" + QString::number(Selected)) +
-                (LookedAt < 0 ? "" : " ?" + QString::number(LookedAt));
+                (LookedAt < 0 ? "" : " >" + QString::number(LookedAt));
         if (!Word.isEmpty())
             line += Word;
         for (auto file = Files.begin(); file != Files.end(); ++file)
