@@ -9,6 +9,8 @@
 #include <QPrintDialog>
 #include <QRegularExpression>
 
+using namespace driving;
+
 class MainWindowTest : public WindowScript {
     Q_OBJECT
 

@@ -7,6 +7,8 @@
 #include <QMetaEnum>
 #include <QScrollBar>
 
+using namespace driving;
+
 class PuzzleWindowTest : public WindowScript {
     Q_OBJECT
 
@@ -21,6 +23,11 @@ private:
         for (const QWidget* row : Find<QWidget>(*ShownWindow("frmPuzzle"), "pctPuzzle").findChildren<QWidget*>())
             rows += row->accessibleName();
         return rows;
+    }
+
+    static QAccessibleInterface* Spoken(const QWidget& control)
+    {
+        return QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&control));
     }
 
     /// The part of a control that has dark pixels.
@@ -55,7 +62,7 @@ private:
             if (control->autoFillBackground())
                 line += " on " + control->palette().color(control->backgroundRole()).name();
             line += control->palette().color(QPalette::Window) == QColor(176, 176, 140) ? ", outlined" : "";
-            auto* spoken = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
+            auto* spoken = Spoken(*control);
             line += QString(", ") + QMetaEnum::fromType<QAccessible::Role>().valueToKey(spoken->role());
             if (const QString name = spoken->text(QAccessible::Name); name != control->property("text").toString())
                 line += " \"" + name + '"';
@@ -92,7 +99,7 @@ private slots:
         QTest::mouseClick(&link, Qt::LeftButton);
         link.setFocus();
         QTest::keyClick(&link, Qt::Key_Space);
-        auto* spoken = QAccessible::queryAccessibleInterface(&link)->actionInterface();
+        auto* spoken = Spoken(link)->actionInterface();
         spoken->doAction(spoken->actionNames().first());
         QDesktopServices::unsetUrlHandler("https");
         QCOMPARE(Addresses, QString("https://www.tallowick.example/ ").repeated(3));
@@ -104,9 +111,10 @@ private slots:
         const auto note = [&](QDialog& about) {
             controls += Controls(about);
             Find<QWidget>(about, "lblbytallowick").setFocus();
-            controls += Find<QPushButton>(about, "cmdOK").isDefault() ? "OK is the default beside the link" : "";
-            Find<QWidget>(about, "cmdOK").setFocus();
-            QTest::keyClick(&Find<QPushButton>(about, "cmdOK"), Qt::Key_Return);
+            auto& ok = Find<QPushButton>(about, "cmdOK");
+            controls += ok.isDefault() ? "OK is the default beside the link" : "";
+            ok.setFocus();
+            QTest::keyClick(&ok, Qt::Key_Return);
             controls += about.isVisible() ? "OK does not close" : "";
         };
         Answering.Expect(note);
@@ -131,16 +139,11 @@ private slots:
     {
         Run("file:full.pux menu:fo create");
         const QWidget& puzzle = *ShownWindow("frmPuzzle");
-        for (const auto& [name, place] : {std::pair("pctPuzzle", QRect(320, 16, 521, 521)),
-                                          {"lblBigTitle", {8, 48, 289, 25}},
-                                          {"lblWords0", {8, 104, 0, 16}},
-                                          {"lblWords19", {8, 408, 0, 16}},
-                                          {"lblWords20", {168, 104, 0, 16}},
-                                          {"lblWords39", {168, 408, 0, 16}}}) {
-            QRect there = Find<QWidget>(puzzle, name).geometry();
-            there.setWidth(place.width() == 0 ? 0 : there.width()); // a word's width depends on the desktop's fonts
-            QCOMPARE(there, place);
-        }
+        for (const auto& [name, place] :
+             {std::pair("pctPuzzle", QRect(320, 16, 521, 521)), {"lblBigTitle", {8, 48, 289, 25}}})
+            QCOMPARE(Find<QWidget>(puzzle, name).geometry(), place);
+        for (const auto& [name, corner] : {std::pair("lblWords19", QPoint(8, 408)), {"lblWords20", {168, 104}}})
+            QCOMPARE(Find<QWidget>(puzzle, name).pos(), corner);
         QCOMPARE(Control<QWidget>("client").size(), QSize(686, 428));
         Answering.Expect(Dismiss());
         Find<QPushButton>(puzzle, "cmdPrint").click(); // hidden, but it works
@@ -200,16 +203,14 @@ private slots:
             void cancel() { told += "cancel "; }
             void release() { told += "release"; }
         };
-        for (const auto& [given, told] :
-             {std::pair("no clicktitle", "release"), {"cancel clicktitle", "cancel release"}}) {
-            Session session{{}, true, {}};
+        for (const auto& [given, mayAsk, told] : {std::tuple("no clicktitle", true, "release save?"),
+                                                  {"cancel clicktitle", true, "cancel release save?"},
+                                                  {"clicktitle", false, " "}}) {
+            Session session{{}, mayAsk, {}};
             Run(given);
             AnswerSession(session, [this] { return Window->Form_QueryUnload(); });
-            QCOMPARE(session.told, told);
+            QCOMPARE(session.told + ' ' + Boxes(), told);
         }
-        Session silent{{}, false, {}};
-        AnswerSession(silent, [this] { return Window->Form_QueryUnload(); });
-        QCOMPARE(silent.told + Boxes(), "save? save?");
     }
 
     /// The window is larger with a larger font, so that all texts fit, and shows all of itself: some styles leave
@@ -246,17 +247,16 @@ private slots:
             QCOMPARE(puzzle.size(), size);
             QCOMPARE(client.size(), QSize(860, 553));
             const auto* area = puzzle.findChild<QAbstractScrollArea*>();
-            const QPoint middle =
-                client.mapTo(&puzzle, client.rect().center()) - area->viewport()->geometry().center();
-            const auto keepsTo = [&](QScrollBar* bar, int from, int room, int needed, Qt::Key key) {
-                QCOMPARE(bar->isVisible(), room < needed);
-                QVERIFY(bar->isVisible() || std::abs(from) <= 1);
+            const QRect view = area->viewport()->geometry();
+            const QPoint middle = client.mapTo(&puzzle, client.rect().center()) - view.center();
+            for (const auto& [bar, off, scrolls, key] :
+                 {std::tuple(area->horizontalScrollBar(), middle.x(), view.width() < 860, Qt::Key_Right),
+                  {area->verticalScrollBar(), middle.y(), view.height() < 553, Qt::Key_Down}}) {
+                QVERIFY(bar->isVisible() == scrolls && (scrolls || std::abs(off) <= 1));
                 const int before = bar->value();
                 QTest::keyClick(&puzzle, key);
-                QCOMPARE(bar->value() > before, room < needed);
-            };
-            keepsTo(area->horizontalScrollBar(), middle.x(), area->viewport()->width(), 860, Qt::Key_Right);
-            keepsTo(area->verticalScrollBar(), middle.y(), area->viewport()->height(), 553, Qt::Key_Down);
+                QCOMPARE(bar->value() > before, scrolls);
+            }
         }
         puzzle.setWindowState(Qt::WindowMaximized);
         QTRY_VERIFY(puzzle.width() > 1300);
@@ -315,22 +315,19 @@ private slots:
     void SpeaksToAssistiveTechnology()
     {
         Run("word:CAT look:Ctrl+Home leave");
-        auto* word = QAccessible::queryAccessibleInterface(&Control<QWidget>("lstWordlist"))->child(0);
+        auto* word = Spoken(Control<QWidget>("lstWordlist"))->child(0);
         QVERIFY(word->text(QAccessible::Name) == "CAT" && !word->state().focused);
         Run("look:Ctrl+Home");
         QVERIFY(word->state().focused);
         Run("no create");
         const QWidget& puzzle = *ShownWindow("frmPuzzle");
-        auto* client = QAccessible::queryAccessibleInterface(&Find<QWidget>(puzzle, "client"));
+        auto* client = Spoken(Find<QWidget>(puzzle, "client"));
         QCOMPARE(client->childCount(), 4); // toolbar, title, grid and one word
-        auto* grid = QAccessible::queryAccessibleInterface(&Find<QWidget>(puzzle, "pctPuzzle"));
-        QVERIFY(client->indexOfChild(client->child(3)) == 3 && grid->childCount() == 10);
-        for (int row = 0; row < 10; ++row) {
-            QCOMPARE(grid->child(row)->text(QAccessible::Name), Grid().at(row));
-            QVERIFY(grid->indexOfChild(grid->child(row)) == row && grid->child(row)->role() == QAccessible::ListItem);
-        }
+        QCOMPARE(client->indexOfChild(client->child(3)), 3);
+        auto* grid = Spoken(Find<QWidget>(puzzle, "pctPuzzle"));
+        QVERIFY(grid->childCount() == 10 && grid->child(9)->role() == QAccessible::ListItem);
+        QCOMPARE(grid->child(9)->text(QAccessible::Name), Grid().at(9));
         QCOMPARE(grid->child(1)->rect(), QRect(grid->rect().topLeft() + QPoint(0, 83), QSize(521, 42)));
-        QVERIFY(grid->child(10) == nullptr);
         Activate();
         Control<QWidget>("lstWordlist").setFocus(); // hiding a window moves the focus
         Step("back");

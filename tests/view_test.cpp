@@ -83,17 +83,16 @@ private slots:
             list.emplace_back(i % 20 + 1, u'W');
         for (const double width : {11906.0, 12240.0, 300.0}) {
             const auto page = view::LayOutPage(Printer(width, width == 12240), u"Animals", list, Grid(10));
-            QCOMPARE(page.texts[0].x, width / 2 - 7 * 260.25 / 2);
-            QVERIFY(page.texts[0].y == 720 && page.texts[0].text == u"Animals");
-            const std::u16string name = page.texts[0].font.name;
-            QVERIFY(name == u"Times New Roman" && page.texts.back().font.name == std::u16string(u"Courier New"));
-            QVERIFY(page.texts[0].font == (view::PageFont{page.texts[0].font.name, 26, true, true}));
+            const auto& title = page.texts[0];
+            QVERIFY(title.x == width / 2 - 910.875 && title.y == 720 && title.text == u"Animals");
+            QVERIFY(title.font == (view::PageFont{title.font.name, 26, true, true}));
+            QCOMPARE(title.font.name, std::u16string(u"Times New Roman"));
+            QCOMPARE(page.texts.back().font.name, std::u16string(u"Courier New"));
             // The widest words of the first three columns have 10, 20 and 10 letters of 110.25 twips.
-            const std::array<double, 4> columns{720, 720 + 1102 + 1080, 2902 + 2205 + 1080, 6187 + 1102 + 1080};
+            const std::array<double, 4> columns{720, 2902, 6187, 8369};
             for (std::size_t i = 0; i < list.size(); ++i) {
                 const auto& text = page.texts.at(i + 1);
-                QVERIFY(text.text == list[i] && text.font == (view::PageFont{text.font.name, 11}) &&
-                        text.font.name == name);
+                QVERIFY(text.text == list[i] && text.font == (view::PageFont{title.font.name, 11}));
                 QVERIFY(text.x == columns.at(i / 10) && text.y == 1800 + static_cast<double>(i % 10) * 330);
             }
             const auto& [left, top, right, bottom] = page.box;

@@ -52,9 +52,9 @@ inline Words AnyList(generator::RandomSource& random)
     const int letters = shape == 3 ? 1 : shape == 5 ? 3 : 26;
     const int most = shape == 3 ? 10 : 40; // the finder cannot solve more words of one letter
     Words words;
-    for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(most); count > 0; --count)
-        words.push_back(RandomWords(random, 1, 1 + random.DrawBelow(shape == 0 ? 20 : 12), letters).front());
-    for (auto& word : words) {
+    for (int count = shape == 7 ? random.DrawBelow(2) : 1 + random.DrawBelow(most); count > 0; --count) {
+        const int length = 1 + random.DrawBelow(shape == 0 ? 20 : 12);
+        auto& word = words.emplace_back(RandomWords(random, 1, length, letters).front());
         if (shape == 1)
             word.insert(1 + static_cast<std::size_t>(random.DrawBelow(static_cast<int>(word.size()))), 1, u' ');
         if (shape == 2)

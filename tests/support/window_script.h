@@ -9,8 +9,6 @@
 
 #include <memory>
 
-using namespace driving;
-
 /// The contents of a file in tests/data.
 inline QString Data(const QString& name)
 {
@@ -52,7 +50,7 @@ struct Seen {
 };
 
 /// The base of the window tests. Each test gets a new window and a folder of files.
-class WindowScript : public QObject, protected Script {
+class WindowScript : public QObject, protected driving::Script {
     Q_OBJECT
 
 protected:
@@ -86,7 +84,7 @@ protected:
         seen.Count = count.text() + (count.palette().color(QPalette::WindowText) == Qt::red ? "!" : "");
         seen.Files = Files("new*");
         seen.Shown = Window->isVisible() ? "frmMain" : "";
-        seen.Shown += ShownWindow("frmPuzzle") != nullptr ? "frmPuzzle" : "";
+        seen.Shown += driving::ShownWindow("frmPuzzle") != nullptr ? "frmPuzzle" : "";
         return seen;
     }
 
@@ -95,8 +93,8 @@ protected:
     {
         static const QList<std::pair<QString, QString>> names{
             {"save?", "Important: Do you want to save the changes you made to your Glyphgrove?"},
-            {"again?",
-             "Duplicate warning: Word already exists in your list! Do you want to put it into your list again?"},
+            {"again?", "Duplicate warning: Word already exists in your list! Do you want to put it into your list "
+                       "again?"},
             {"limit", "Word Limit!: 40 word limit reached!"},
             {"older",
              "Important!: This is a Glyphgrove 2.1 file. For maximum performance, saving this file will update "
@@ -121,7 +119,7 @@ protected:
 private slots:
     void initTestCase()
     {
-        PrepareDriving();
+        driving::PrepareDriving();
         QApplication::setStyle("Fusion"); // the same layout on every desktop
         QFont::insertSubstitution("Times New Roman", "Liberation Serif");
         QFont::insertSubstitution("Courier New", "Liberation Mono");
