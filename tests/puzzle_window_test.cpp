@@ -84,7 +84,7 @@ private slots:
     {
         Run("word:Oak word:Wild_Rose no create");
         QWidget& puzzle = *ShownWindow("frmPuzzle");
-        SolvedPuzzle solved{{}, {"Oak", "Wild Rose"}};
+        SolvedPuzzle solved{{}, {"OAK", "WILD ROSE"}};
         for (QString row : Grid())
             solved.rows.push_back(row.remove(' ').toStdString());
         QCOMPARE(FaultOf(solved), std::string());

@@ -43,14 +43,13 @@ struct Model : Seen {
             return EditMode ? void() : LeaveTitle();
         if (!std::exchange(EditMode, false))
             return Add();
-        if (EditIndex < 0 || EditIndex >= Words.size()) {
-            Add();
-            Create = Create || FitForPuzzle();
-            return;
+        if (EditIndex >= 0 && EditIndex < Words.size()) {
+            Words[EditIndex] = Word;
+            Selected = Selected == EditIndex ? -1 : Selected;
+            return ShowChange();
         }
-        Words[EditIndex] = Word;
-        Selected = Selected == EditIndex ? -1 : Selected;
-        ShowChange();
+        Add();
+        Create = Create || FitForPuzzle();
     }
     void Add()
     {
@@ -95,11 +94,12 @@ struct Model : Seen {
         Words.removeAt(std::exchange(Selected, -1));
         EditMode = Saved = false;
     }
+    void Keep() { Save ? Write(DocFileName) : RunSaveAs(); }
     bool CheckForSave()
     {
         const QString answer = Saved ? "" : Ask("save?", {"yes", "no", "cancel", "escape"});
         if (answer == "yes")
-            Save ? Write(DocFileName) : RunSaveAs();
+            Keep();
         Saved = Saved || answer == "no";
         return answer == "cancel" || answer == "escape";
     }
@@ -162,13 +162,6 @@ struct Model : Seen {
             Ask("obstacle", {"ok", "escape"});
         Shown = FitForPuzzle() ? "frmPuzzle" : Shown;
     }
-    void ToolbarSave()
-    {
-        if (!SaveAs)
-            Ask("nothing to save", {"ok", "escape"});
-        else
-            Save ? Write(DocFileName) : RunSaveAs();
-    }
     /// Types a text over a selection: BOX,START,LENGTH,TEXT.
     void TypeOver(const QString& about)
     {
@@ -218,14 +211,14 @@ struct Model : Seen {
     /// The keys come while the program is busy. It drops those after a key that opens a dialog.
     void PressWaiting(const QStringList& keys)
     {
+        LeaveTitle();
         for (const QString& key : keys)
             if (Boxes.isEmpty() && Shown == "frmMain")
                 Do(SameAs.contains(key) ? key : "type:" + key);
     }
     void ClickTitle()
     {
-        if (Title == "New Puzzle" || !TitleSet)
-            Title.clear();
+        Title = Title == "New Puzzle" || !TitleSet ? "" : Title;
         InTitle = TitleSet = true;
         Saved = false;
     }
@@ -251,7 +244,7 @@ struct Model : Seen {
             {"over", {true, [&] { TypeOver(about); }}},
             {"look", {true, [&] { PressInList(about); }}},
             {"list", {true, [&] { PasteList(about.split(',')); }}},
-            {"waiting", {!InTitle, [&] { LeaveTitle(), PressWaiting(about.split(' ')); }}},
+            {"waiting", {!InTitle, [&] { PressWaiting(about.split(' ')); }}},
             {"clicktitle", {true, [&] { ClickTitle(); }}},
             {"leave", {true, [&] { LeaveTitle(); }}},
             {"tabs", {true, [&] { InTitle = true, LeaveTitle(); }}},
@@ -261,7 +254,11 @@ struct Model : Seen {
             {"tool:Delete", {true, [&] { Delete(true); }}},
             {"tool:New", {true, [&] { CheckForSave() ? void() : (Reset(), DocFileName.clear()); }}},
             {"tool:Open", {true, [&] { Open(); }}},
-            {"tool:Save", {true, [&] { ToolbarSave(); }}},
+            {"tool:Save",
+             {true,
+              [&] {
+                  SaveAs ? Keep() : void(Ask("nothing to save", {"ok", "escape"}));
+              }}},
             {"menu:fv", {Save, [&] { Write(DocFileName); }}},
             {"menu:fe", {SaveAs, [&] { RunSaveAs(); }}},
             {"closemain", {true, [&] { Shown = CheckForSave() ? Shown : ""; }}},

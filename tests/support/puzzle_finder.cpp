@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bitset>
-#include <cctype>
 
 namespace {
 
@@ -11,10 +10,8 @@ using Cells = std::bitset<900>;
 /// All places where the word can be read, as sets of cells.
 std::vector<Cells> FindAll(const std::vector<std::string>& rows, const std::string& word)
 {
-    std::string letters;
-    for (const char c : word)
-        if (c != ' ')
-            letters += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    std::string letters = word;
+    std::erase(letters, ' ');
     const int size = static_cast<int>(rows.size());
     const int length = static_cast<int>(word.size());
     const auto within = [size](int position) { return position >= 0 && position < size; };

@@ -6,7 +6,7 @@
 /// A finished puzzle as a solver sees it.
 struct SolvedPuzzle {
     std::vector<std::string> rows;
-    std::vector<std::string> words; ///< in any letter case, with blanks
+    std::vector<std::string> words; ///< in capitals, with blanks
 };
 
 /// What is wrong with the puzzle, or "". The grid must be a square of capitals. Each word, without its blanks, must

@@ -2,6 +2,7 @@
 
 #include "generator/workspace.h"
 #include "tests/support/puzzle_finder.h"
+#include "wordlist/letters.h"
 
 #include <algorithm>
 #include <string>
@@ -26,11 +27,15 @@ inline std::vector<std::string> GridRows(const generator::PuzzleWorkspace& works
     return rows;
 }
 
+/// The words are spelt as in the grid, where only letters take cells.
 inline SolvedPuzzle Solved(const generator::PuzzleWorkspace& workspace, const Words& words)
 {
     SolvedPuzzle puzzle{GridRows(workspace), {}};
-    for (const auto& word : words)
-        puzzle.words.emplace_back(word.begin(), word.end());
+    for (const auto& word : words) {
+        auto& spelt = puzzle.words.emplace_back();
+        for (const char16_t character : word)
+            spelt += wordlist::GridLetter(character).value_or(generator::Blank);
+    }
     return puzzle;
 }
 
